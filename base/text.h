@@ -1,0 +1,25 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace korvane::base {
+
+// Compares as the C runtime's _wcsicmp does in its default locale: only the letters A to Z have two cases.
+[[nodiscard]] bool EqualIgnoringAsciiCase(std::wstring_view left, std::wstring_view right);
+
+// The leading decimal number of a text, as _wtoi reads it: white space and a sign may go before it, what follows the
+// digits does not count, and a text without a number gives 0. A number out of range gives the nearest that fits.
+[[nodiscard]] int LeadingInteger(std::wstring_view text);
+
+// Without the blanks, tabs and line breaks at both ends.
+[[nodiscard]] std::wstring_view Trimmed(std::wstring_view text);
+
+// The non-empty pieces between separators: runs of separators count as one, as with wcstok.
+[[nodiscard]] std::vector<std::wstring_view> SplitText(std::wstring_view text, wchar_t separator);
+
+// Every occurrence of `what` replaced, in one pass from the left; what is put in is not looked at again.
+[[nodiscard]] std::wstring ReplaceAll(std::wstring_view text, std::wstring_view what, std::wstring_view with);
+
+} // namespace korvane::base

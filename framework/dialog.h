@@ -1,0 +1,37 @@
+#pragma once
+
+#include "framework/window.h"
+
+namespace fw {
+
+// The part of a dialog that does not depend on its class.
+class DialogObject : public WindowObject {
+public:
+    ~DialogObject() override;
+    // A dialog's map falls back to the dialog manager, which runs when the procedure answers FALSE.
+    LRESULT Default(const Message&) override { return 0; }
+
+protected:
+    [[nodiscard]] INT_PTR RunModal(UINT dialogTemplate, HWND owner);
+    [[nodiscard]] bool CreateModeless(UINT dialogTemplate, HWND owner);
+
+private:
+    static INT_PTR CALLBACK DialogProcedure(HWND window, UINT id, WPARAM wparam, LPARAM lparam);
+};
+
+// Base of a dialog class T, which declares `static constexpr UINT kTemplate` and `static constexpr auto Messages()`.
+// Handlers just return their result; what Windows wants in DWLP_MSGRESULT goes there.
+template <class T>
+class Dialog : public DialogObject {
+public:
+    // The value given to EndDialog, or -1 when the template cannot be shown.
+    [[nodiscard]] INT_PTR ShowModal(HWND owner) { return RunModal(T::kTemplate, owner); }
+    [[nodiscard]] bool Create(HWND owner) { return CreateModeless(T::kTemplate, owner); }
+
+    Reply Dispatch(const Message& m) override {
+        static constexpr auto map = T::Messages();
+        return map(static_cast<T&>(*this), m);
+    }
+};
+
+} // namespace fw

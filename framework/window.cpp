@@ -1,0 +1,119 @@
+#include "framework/window.h"
+
+#include <unordered_map>
+
+namespace fw {
+namespace {
+
+std::unordered_map<HWND, WindowObject*>& Bound() {
+    static std::unordered_map<HWND, WindowObject*> bound;
+    return bound;
+}
+
+} // namespace
+
+WindowObject::~WindowObject() {
+    Unbind();
+}
+
+WindowObject* WindowObject::From(HWND window) {
+    const auto at = Bound().find(window);
+    return at == Bound().end() ? nullptr : at->second;
+}
+
+void WindowObject::Bind(HWND window) {
+    window_ = window;
+    Bound()[window] = this;
+}
+
+void WindowObject::Unbind() {
+    if (window_) Bound().erase(window_);
+    window_ = nullptr;
+}
+
+void WindowObject::Redraw() const {
+    ::RedrawWindow(window_, nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_UPDATENOW);
+}
+
+bool WindowObject::CreateBound(const wchar_t* className, const CreateOptions& options) {
+    const RECT& r = options.rect;
+    return ::CreateWindowExW(options.extendedStyle, className, options.text, options.style, r.left, r.top,
+                             r.right - r.left, r.bottom - r.top, options.parent, reinterpret_cast<HMENU>(options.id),
+                             ::GetModuleHandleW(nullptr), this) != nullptr;
+}
+
+void WindowObject::DestroyUnbound(WNDPROC procedure) {
+    const HWND window = window_;
+    if (!window) return;
+    Unbind();
+    ::SetWindowLongPtrW(window, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(procedure));
+    ::DestroyWindow(window);
+}
+
+Reply WindowObject::Reflect(const Message& m) {
+    HWND child = nullptr;
+    switch (m.id) {
+    case WM_DRAWITEM:
+        child = reinterpret_cast<const DRAWITEMSTRUCT*>(m.lparam)->hwndItem;
+        break;
+    case WM_NOTIFY:
+        child = reinterpret_cast<const NMHDR*>(m.lparam)->hwndFrom;
+        break;
+    case WM_COMMAND:
+    case WM_CTLCOLORBTN:
+    case WM_CTLCOLOREDIT:
+    case WM_CTLCOLORSTATIC:
+        child = reinterpret_cast<HWND>(m.lparam);
+        break;
+    default:
+        return kPassOn;
+    }
+    WindowObject* const object = From(child);
+    if (!object) return kPassOn;
+    return object->Dispatch({child, m.id + kReflected, m.wparam, m.lparam});
+}
+
+LRESULT CALLBACK WindowObject::Procedure(HWND window, UINT id, WPARAM wparam, LPARAM lparam) {
+    if (id == WM_NCCREATE)
+        static_cast<WindowObject*>(reinterpret_cast<const CREATESTRUCTW*>(lparam)->lpCreateParams)->Bind(window);
+
+    WindowObject* const self = From(window);
+    if (!self) return ::DefWindowProcW(window, id, wparam, lparam);
+
+    const Message m{window, id, wparam, lparam};
+    if (id == WM_NCDESTROY) {
+        const LRESULT result = self->Dispatch(m).value_or(0);
+        self->Default(m);
+        self->Unbind();
+        self->OnFinalMessage();
+        return result;
+    }
+    // A handler that answered may have destroyed the object: touch nothing of it afterwards.
+    if (const Reply reply = self->Dispatch(m)) return *reply;
+    return self->Default(m);
+}
+
+WNDPROC WindowObject::Register(const WindowClass& windowClass) {
+    const HINSTANCE instance = ::GetModuleHandleW(nullptr);
+    WNDCLASSEXW c{};
+    c.cbSize = sizeof c;
+    WNDPROC base = nullptr;
+    if (windowClass.base) {
+        if (!::GetClassInfoExW(nullptr, windowClass.base, &c)) return nullptr;
+        base = c.lpfnWndProc;
+        c.cbSize = sizeof c;
+        c.style &= ~static_cast<UINT>(CS_GLOBALCLASS);
+    } else {
+        c.hCursor = ::LoadCursorW(nullptr, reinterpret_cast<LPCWSTR>(IDC_ARROW));
+    }
+    c.style |= windowClass.style;
+    c.lpszClassName = windowClass.name;
+    c.lpszMenuName = nullptr;
+    c.lpfnWndProc = &WindowObject::Procedure;
+    c.hInstance = instance;
+    // Registering again fails and changes nothing.
+    ::RegisterClassExW(&c);
+    return base;
+}
+
+} // namespace fw

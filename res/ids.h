@@ -1,0 +1,134 @@
+// Identifiers shared by the program and its resource script; #defines, because the resource compiler reads them too.
+#pragma once
+
+// clang-format off
+
+// Resources.
+#define IDI_KORVANE                 100
+#define IDM_BAR                     101   // three pop-ups: main menu, search menu, control panel menu
+#define IDA_BAR                     128
+#define IDD_HISTORY_DROP_DOWN       103
+#define IDB_TOOL_STRIP              220   // run, search, settings: 16 x 16 images at 96 dpi, see res/art
+#define IDB_TOOL_STRIP_DISABLED     221
+
+// Images of the type "PNG".
+#define IDP_MENU_ON_DARK            201
+#define IDP_MENU_ON_LIGHT           202
+
+// Menu pop-ups by position in IDM_BAR.
+#define POPUP_MAIN                  0
+#define POPUP_SEARCH                1
+#define POPUP_CONTROL_PANEL         2
+
+// Controls of the bar, and the commands that they send.
+#define ID_MAIN_MENU                2000
+#define ID_COMMAND_BOX              2001
+#define ID_SEARCH_BOX               2002
+#define ID_COMMAND_HISTORY          2003
+#define ID_SEARCH_HISTORY           2004
+#define ID_RUN_TYPED                2005
+#define ID_RUN_SEARCH               2006
+#define ID_SEARCH_CHOOSER           2007
+#define ID_CONTROL_PANEL            2008
+#define ID_OPTIONS                  2009
+#define ID_CLOCK                    2014
+
+// Commands that open a control of the bar by keyboard.
+#define ID_OPEN_MAIN_MENU           2010
+#define ID_OPEN_COMMAND_HISTORY     2011
+#define ID_OPEN_SEARCH_HISTORY      2012
+#define ID_OPEN_SEARCH_CHOOSER      2013
+#define ID_OPEN_CONTROL_PANEL       4000
+
+// Browsing for a path to put into the command input box.
+#define ID_BROWSE_FILE              2020
+#define ID_BROWSE_FOLDER            2021
+
+// Built-in programs.
+#define ID_PROGRAM_FIRST            3001
+#define ID_NOTEPAD                  3001
+#define ID_PAINT                    3002
+#define ID_CALCULATOR               3003
+#define ID_COMMAND_PROMPT           3004
+#define ID_EXPLORER                 3005
+#define ID_WORDPAD                  3006
+#define ID_WINDOWS_UPDATE           3007
+#define ID_PROGRAM_LAST             3007
+
+// Six-field command entries: control panel entries, then the launch buttons.
+#define ID_ENTRY_FIRST              4001
+#define ID_CONTROL_PANEL_LAST       4024
+#define ID_LAUNCH_BUTTON_1          4025
+#define ID_LAUNCH_BUTTON_2          4026
+#define ID_LAUNCH_BUTTON_3          4027
+#define ID_ENTRY_LAST               4027
+
+// Launch menu.
+#define ID_LAUNCH_FIRST             4028
+#define ID_LAUNCH_LAST              4062
+#define ID_LAUNCH_SETTINGS          4063
+
+// Ending the Windows session.
+#define ID_SIGN_OUT                 4100
+#define ID_SHUT_DOWN                4101
+#define ID_RESTART                  4102
+
+// Task switching.
+#define ID_NO_TASK                  4500
+#define ID_TASK_FIRST               4501
+#define ID_TASK_LAST                4600
+
+// Search commands: 5000 + n for standard command n, 5051 + n for user command n.
+#define ID_SEARCH_SETTINGS          5000
+#define ID_SEARCH_FIRST             5001
+#define ID_SEARCH_LAST              5102
+
+// Toggles and the remaining commands of the main menu.
+#define ID_DESKTOP_BAR_MODE         40001
+#define ID_TOPMOST                  40002
+#define ID_AUTO_HIDE                40003
+#define ID_MONITOR_CLIPBOARD        40004
+#define ID_ONLINE_DOCUMENTS         40005
+#define ID_SEND_MAIL                40006
+#define ID_AUTHOR_SITE              40007
+#define ID_SCREEN_SAVER             40008
+#define ID_ABOUT                    57664
+#define ID_EXIT                     57665
+#define ID_HELP_CONTENTS            57666
+
+// Global hot keys.
+#define HOTKEY_SHOW_BAR             1000
+#define HOTKEY_LAUNCH_MENU          1001
+
+// String table. The command entries 4001-4027 stand under their command identifiers.
+#define IDS_REINSTALL               101
+#define IDS_DIALOG_FAILED           102
+#define IDS_USER_COMMAND_HEADER     103
+#define IDS_DEFAULT_SELECTION_KEY   104
+#define IDS_USER_SELECTION_KEY      105
+#define IDS_BAD_USER_COMMAND        106
+#define IDS_TOOL_NOT_FOUND          107
+#define IDS_CLEAR_HISTORY           108
+#define IDS_EVERYTHING_KEY          109
+#define IDS_EMEDITOR_KEY            110
+#define IDS_HIDEMARU_KEY            111
+#define IDS_NO_SEARCH_COMMAND       114
+#define IDS_PRODUCT                 128
+
+// Texts of this program's own choosing.
+#define IDS_NEEDS_64BIT_EDITION     200
+#define IDS_SCREEN_TOO_NARROW       201
+#define IDS_FONT_UPDATE_TEXT        202
+#define IDS_FONT_UPDATE_CAPTION     203
+#define IDS_BROWSE_FILE_ROW         204
+#define IDS_BROWSE_FOLDER_ROW       205
+#define IDS_CLEAR_HISTORY_ROW       206
+#define IDS_NO_ROW                  207
+#define IDS_ALL_FILES_FILTER        208
+#define IDS_BROWSE_FOLDER_TITLE     209
+#define IDS_BROWSE_FOLDER_PROMPT    210
+#define IDS_COMMAND_BOX             211
+#define IDS_SEARCH_BOX              212
+#define IDS_CONFIRM_EXIT            57665
+
+// clang-format on
