@@ -1,0 +1,71 @@
+#pragma once
+
+#include <cstddef>
+#include <optional>
+#include <span>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace korvane::settings {
+
+// A row of the table of settings: where a value stands, and what it reads as when it is not there. The row's type
+// decides what Read returns.
+struct IntSetting {
+    std::wstring_view section;
+    std::wstring_view name;
+    int fallback;
+};
+struct TextSetting {
+    std::wstring_view section;
+    std::wstring_view name;
+    std::wstring_view fallback;
+};
+struct BinarySetting {
+    std::wstring_view section;
+    std::wstring_view name;
+    std::size_t size; // bytes; a value of any other length reads as missing
+};
+
+// Typed reads and writes of named values in named sections. Reads never fail: what is missing, of another type or
+// damaged gives the fallback. Nothing is cached. Writes say whether they succeeded.
+class ProfileStore {
+public:
+    virtual ~ProfileStore() = default;
+
+    [[nodiscard]] virtual int ReadInt(std::wstring_view section, std::wstring_view name, int fallback) const = 0;
+    [[nodiscard]] virtual std::wstring ReadText(std::wstring_view section, std::wstring_view name,
+                                                std::wstring_view fallback = {}) const = 0;
+    // Empty when there is no such value.
+    [[nodiscard]] virtual std::optional<std::vector<std::byte>> ReadBinary(std::wstring_view section,
+                                                                           std::wstring_view name) const = 0;
+
+    virtual bool WriteInt(std::wstring_view section, std::wstring_view name, int value) = 0;
+    virtual bool WriteText(std::wstring_view section, std::wstring_view name, std::wstring_view text) = 0;
+    virtual bool WriteBinary(std::wstring_view section, std::wstring_view name, std::span<const std::byte> bytes) = 0;
+    virtual bool DeleteValue(std::wstring_view section, std::wstring_view name) = 0;
+    virtual bool DeleteSection(std::wstring_view section) = 0;
+
+    [[nodiscard]] int Read(const IntSetting& setting) const {
+        return ReadInt(setting.section, setting.name, setting.fallback);
+    }
+    [[nodiscard]] std::wstring Read(const TextSetting& setting) const {
+        return ReadText(setting.section, setting.name, setting.fallback);
+    }
+    [[nodiscard]] std::optional<std::vector<std::byte>> Read(const BinarySetting& setting) const {
+        auto bytes = ReadBinary(setting.section, setting.name);
+        if (bytes && bytes->size() != setting.size) bytes.reset();
+        return bytes;
+    }
+    bool Write(const IntSetting& setting, int value) { return WriteInt(setting.section, setting.name, value); }
+    // An empty text is written as no value at all, so that the setting falls back.
+    bool Write(const TextSetting& setting, std::wstring_view text) {
+        return text.empty() ? DeleteValue(setting.section, setting.name)
+                            : WriteText(setting.section, setting.name, text);
+    }
+    bool Write(const BinarySetting& setting, std::span<const std::byte> bytes) {
+        return WriteBinary(setting.section, setting.name, bytes);
+    }
+};
+
+} // namespace korvane::settings
