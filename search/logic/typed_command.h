@@ -1,0 +1,37 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+
+#include "search/logic/process_starter.h"
+
+namespace korvane::search {
+
+// The command line that a typed text stands for. Control panel items (".cpl" anywhere, in small letters) are opened by
+// the control panel; in capital letters they are run as they stand, which is on purpose.
+[[nodiscard]] std::wstring CommandLineOfTyped(std::wstring_view text);
+
+// What became of a typed command. With an error code there is something to be shown to the user, without one the text
+// belongs into the history.
+struct RunOutcome {
+    unsigned long error = 0; // Windows error code
+
+    [[nodiscard]] bool Started() const { return error == 0; }
+    friend bool operator==(const RunOutcome&, const RunOutcome&) = default;
+};
+
+// Runs a typed text as a process or, where that cannot be, has the shell open it.
+[[nodiscard]] RunOutcome RunTypedCommand(std::wstring_view text, ProcessStarter& starter);
+
+// How a picked path goes into the box.
+enum class PathEntry { kReplace, kAppend };
+
+// What the box holds after a path was picked: the path alone, or the text that was there, one blank and the path, in
+// quotation marks if it has blanks itself. Appending to an empty box is replacing.
+[[nodiscard]] std::wstring WithPickedPath(std::wstring_view text, std::wstring_view path, PathEntry entry);
+
+// A text for a box of one line: every line break becomes one blank, and those at the very end, which a copied line
+// often brings along, are dropped.
+[[nodiscard]] std::wstring OnOneLine(std::wstring_view text);
+
+} // namespace korvane::search
