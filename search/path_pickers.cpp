@@ -1,0 +1,65 @@
+#include "search/path_pickers.h"
+
+#include <commdlg.h>
+#include <objbase.h>
+#include <shlobj.h>
+
+#include <algorithm>
+#include <array>
+#include <memory>
+
+namespace korvane::search {
+namespace {
+
+// Characters; as much as a path can have, the terminating zero included.
+constexpr std::size_t kLongestPath = 32768;
+
+int CALLBACK OnBrowserMessage(HWND browser, UINT message, LPARAM, LPARAM title) {
+    // The browser takes no title from its caller, but can be given one as soon as it is there.
+    if (message == BFFM_INITIALIZED) ::SetWindowTextW(browser, reinterpret_cast<const wchar_t*>(title));
+    return 0;
+}
+
+struct FreeTaskMemory {
+    void operator()(void* memory) const { ::CoTaskMemFree(memory); }
+};
+
+} // namespace
+
+std::optional<std::wstring> PickFile(HWND owner, std::wstring_view filter) {
+    // The dialog wants zeros where the text has bars, and two of them at the end.
+    std::wstring zeroFilter{filter};
+    std::replace(zeroFilter.begin(), zeroFilter.end(), L'|', L'\0');
+    zeroFilter.append(2, L'\0');
+    std::wstring path(kLongestPath, L'\0');
+
+    OPENFILENAMEW request{};
+    request.lStructSize = sizeof request;
+    request.hwndOwner = owner;
+    request.lpstrFilter = zeroFilter.c_str();
+    request.lpstrFile = path.data();
+    request.nMaxFile = static_cast<DWORD>(path.size());
+    request.Flags = OFN_EXPLORER | OFN_HIDEREADONLY | OFN_FILEMUSTEXIST | OFN_PATHMUSTEXIST | OFN_NOCHANGEDIR;
+    if (!::GetOpenFileNameW(&request)) return std::nullopt;
+    path.resize(path.find(L'\0'));
+    return path;
+}
+
+std::optional<std::wstring> PickFolder(HWND owner, const std::wstring& title, const std::wstring& prompt) {
+    std::array<wchar_t, MAX_PATH> displayName{};
+    BROWSEINFOW request{};
+    request.hwndOwner = owner;
+    request.pszDisplayName = displayName.data();
+    request.lpszTitle = prompt.c_str();
+    request.ulFlags = BIF_RETURNONLYFSDIRS | BIF_NEWDIALOGSTYLE;
+    request.lpfn = &OnBrowserMessage;
+    request.lParam = reinterpret_cast<LPARAM>(title.c_str());
+    const std::unique_ptr<ITEMIDLIST, FreeTaskMemory> item{::SHBrowseForFolderW(&request)};
+    if (!item) return std::nullopt;
+
+    std::array<wchar_t, MAX_PATH> path{};
+    if (!::SHGetPathFromIDListW(item.get(), path.data())) return std::nullopt;
+    return std::wstring{path.data()};
+}
+
+} // namespace korvane::search

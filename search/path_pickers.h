@@ -1,0 +1,18 @@
+#pragma once
+
+#include <windows.h>
+
+#include <optional>
+#include <string>
+#include <string_view>
+
+namespace korvane::search {
+
+// Lets the user pick an existing file. `filter` is a list of names and patterns such as "All files (*.*)|*.*||". Empty
+// when the user cancels.
+[[nodiscard]] std::optional<std::wstring> PickFile(HWND owner, std::wstring_view filter);
+
+// Lets the user pick a folder of the file system. COM must be initialised on this thread. Empty when the user cancels.
+[[nodiscard]] std::optional<std::wstring> PickFolder(HWND owner, const std::wstring& title, const std::wstring& prompt);
+
+} // namespace korvane::search

@@ -1,0 +1,14 @@
+#pragma once
+
+#include "search/logic/process_starter.h"
+
+namespace korvane::search {
+
+// Starts processes and asks the shell, on behalf of the user-interface thread.
+class WinProcessStarter final : public ProcessStarter {
+public:
+    [[nodiscard]] unsigned long StartCommandLine(const std::wstring& commandLine) override;
+    [[nodiscard]] int Open(const std::wstring& file) override;
+};
+
+} // namespace korvane::search
