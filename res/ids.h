@@ -1,26 +1,14 @@
 // Identifiers shared by the program and its resource script; #defines, because the resource compiler reads them too.
 #pragma once
 
+#include "image_ids.h"
+
 // clang-format off
 
 // Resources.
-#define IDI_KORVANE                 100
 #define IDM_BAR                     101   // three pop-ups: main menu, search menu, control panel menu
 #define IDA_BAR                     128
 #define IDD_HISTORY_DROP_DOWN       103
-#define IDI_RUN                     301
-#define IDI_RUN_DISABLED            302
-#define IDI_SEARCH                  303
-#define IDI_SEARCH_DISABLED         304
-#define IDI_SETTINGS                305
-#define IDI_OPTIONS_ON_DARK         306
-#define IDI_OPTIONS_ON_LIGHT        307
-#define IDI_HELP_ON_DARK            308
-#define IDI_HELP_ON_LIGHT           309
-
-// Images of the type "PNG".
-#define IDP_MENU_ON_DARK            201
-#define IDP_MENU_ON_LIGHT           202
 
 // Menu pop-ups by position in IDM_BAR.
 #define POPUP_MAIN                  0
