@@ -1,11 +1,15 @@
 #pragma once
 
 #include <cstddef>
+#include <cstdint>
 #include <optional>
 #include <span>
 #include <string>
 #include <string_view>
 #include <vector>
+
+#include "base/colour.h"
+#include "base/format_text.h"
 
 namespace korvane::settings {
 
@@ -26,9 +30,23 @@ struct BinarySetting {
     std::wstring_view name;
     std::size_t size; // bytes; a value of any other length reads as missing
 };
+// Stored as an integer in the layout of Windows' COLORREF. What it falls back to is known only while the program runs.
+struct ColourSetting {
+    std::wstring_view section;
+    std::wstring_view name;
+};
+// Texts of one list, one value each; the name is a format for the number, which starts at 1.
+struct NumberedSetting {
+    std::wstring_view section;
+    std::wstring_view name;
+
+    [[nodiscard]] std::wstring NameOf(int number) const { return base::FormatText(name, number); }
+};
 
 // Typed reads and writes of named values in named sections. Reads never fail: what is missing, of another type or
-// damaged gives the fallback. Nothing is cached. Writes say whether they succeeded.
+// damaged gives the fallback. Reads create nothing, writes create the section that is missing. Nothing is cached.
+// Writes say whether they succeeded; deleting what is not there succeeds. A text ends at its first zero character, and
+// an empty section or name stands for no value at all.
 class ProfileStore {
 public:
     virtual ~ProfileStore() = default;
@@ -36,7 +54,7 @@ public:
     [[nodiscard]] virtual int ReadInt(std::wstring_view section, std::wstring_view name, int fallback) const = 0;
     [[nodiscard]] virtual std::wstring ReadText(std::wstring_view section, std::wstring_view name,
                                                 std::wstring_view fallback = {}) const = 0;
-    // Empty when there is no such value.
+    // Empty when there is no such value, or none of at least one byte.
     [[nodiscard]] virtual std::optional<std::vector<std::byte>> ReadBinary(std::wstring_view section,
                                                                            std::wstring_view name) const = 0;
 
@@ -57,14 +75,27 @@ public:
         if (bytes && bytes->size() != setting.size) bytes.reset();
         return bytes;
     }
+    [[nodiscard]] base::Colour Read(const ColourSetting& setting, base::Colour fallback) const {
+        return {static_cast<std::uint32_t>(ReadInt(setting.section, setting.name, static_cast<int>(fallback.value)))};
+    }
+    [[nodiscard]] std::wstring Read(const NumberedSetting& setting, int number) const {
+        return ReadText(setting.section, setting.NameOf(number));
+    }
     bool Write(const IntSetting& setting, int value) { return WriteInt(setting.section, setting.name, value); }
-    // An empty text is written as no value at all, so that the setting falls back.
+    // An empty text is written as no value at all. Only where a missing value would read as something else is the empty
+    // text itself written.
     bool Write(const TextSetting& setting, std::wstring_view text) {
-        return text.empty() ? DeleteValue(setting.section, setting.name)
-                            : WriteText(setting.section, setting.name, text);
+        return text.empty() && setting.fallback.empty() ? DeleteValue(setting.section, setting.name)
+                                                        : WriteText(setting.section, setting.name, text);
     }
     bool Write(const BinarySetting& setting, std::span<const std::byte> bytes) {
         return WriteBinary(setting.section, setting.name, bytes);
+    }
+    bool Write(const ColourSetting& setting, base::Colour colour) {
+        return WriteInt(setting.section, setting.name, static_cast<int>(colour.value));
+    }
+    bool Write(const NumberedSetting& setting, int number, std::wstring_view text) {
+        return WriteText(setting.section, setting.NameOf(number), text);
     }
 };
 
