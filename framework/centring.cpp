@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "framework/gdi.h"
+#include "framework/monitors.h"
 
 namespace fw {
 
@@ -11,13 +12,6 @@ using korvane::base::Rect;
 using korvane::base::Size;
 
 namespace {
-
-Rect WorkAreaOf(HWND window) {
-    MONITORINFO info{};
-    info.cbSize = sizeof info;
-    ::GetMonitorInfoW(::MonitorFromWindow(window, MONITOR_DEFAULTTONEAREST), &info);
-    return FromWindows(info.rcWork);
-}
 
 DWORD StyleOf(HWND window) {
     return static_cast<DWORD>(::GetWindowLongPtrW(window, GWL_STYLE));

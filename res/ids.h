@@ -1,19 +1,14 @@
 // Identifiers shared by the program and its resource script; #defines, because the resource compiler reads them too.
 #pragma once
 
+#include "image_ids.h"
+
 // clang-format off
 
 // Resources.
-#define IDI_KORVANE                 100
 #define IDM_BAR                     101   // three pop-ups: main menu, search menu, control panel menu
 #define IDA_BAR                     128
 #define IDD_HISTORY_DROP_DOWN       103
-#define IDB_TOOL_STRIP              220   // run, search, settings: 16 x 16 images at 96 dpi, see res/art
-#define IDB_TOOL_STRIP_DISABLED     221
-
-// Images of the type "PNG".
-#define IDP_MENU_ON_DARK            201
-#define IDP_MENU_ON_LIGHT           202
 
 // Menu pop-ups by position in IDM_BAR.
 #define POPUP_MAIN                  0
@@ -114,6 +109,11 @@
 #define IDS_HIDEMARU_KEY            111
 #define IDS_NO_SEARCH_COMMAND       114
 #define IDS_PRODUCT                 128
+#define IDS_CLOCK_TIME              130
+#define IDS_CLOCK_SECONDS           131
+#define IDS_CLOCK_TIME_DATE         132
+#define IDS_CLOCK_SECONDS_DATE      133
+#define IDS_CLOCK_DATE              134
 
 // Texts of this program's own choosing.
 #define IDS_NEEDS_64BIT_EDITION     200
@@ -129,6 +129,17 @@
 #define IDS_BROWSE_FOLDER_PROMPT    210
 #define IDS_COMMAND_BOX             211
 #define IDS_SEARCH_BOX              212
+#define IDS_MAIN_MENU               213
+#define IDS_COMMAND_HISTORY         214
+#define IDS_SEARCH_HISTORY          215
+#define IDS_SEARCH_CHOOSER          216
+#define IDS_RUN                     217
+#define IDS_SEARCH                  218
+#define IDS_CONTROL_PANEL           219
+#define IDS_OPTIONS                 220
+#define IDS_HELP                    221
+#define IDS_EXIT                    222
+#define IDS_SEARCH_SETTINGS         223
 #define IDS_CONFIRM_EXIT            57665
 
 // clang-format on

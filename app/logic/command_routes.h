@@ -1,0 +1,81 @@
+#pragma once
+
+#include <array>
+#include <optional>
+
+#include "res/ids.h"
+
+namespace korvane::app {
+
+// Where a command goes. Commands arrive from menus, accelerators, buttons and the boxes alike.
+enum class Route {
+    kRunTyped,
+    kRunSearch,
+    kOpenHistory,
+    kOpenMenuButton,
+    kPressHistoryButton,
+    kBrowse,
+    kRunEntry,
+    kChooseSearch,
+    kExit,
+};
+
+struct CommandRange {
+    unsigned first;
+    unsigned last;
+    Route route;
+};
+
+// clang-format off
+inline constexpr std::array kCommandRanges{
+    CommandRange{ID_COMMAND_HISTORY,      ID_SEARCH_HISTORY,       Route::kOpenHistory},
+    CommandRange{ID_RUN_TYPED,            ID_RUN_TYPED,            Route::kRunTyped},
+    CommandRange{ID_RUN_SEARCH,           ID_RUN_SEARCH,           Route::kRunSearch},
+    CommandRange{ID_OPEN_MAIN_MENU,       ID_OPEN_MAIN_MENU,       Route::kOpenMenuButton},
+    CommandRange{ID_OPEN_COMMAND_HISTORY, ID_OPEN_SEARCH_HISTORY,  Route::kPressHistoryButton},
+    CommandRange{ID_OPEN_SEARCH_CHOOSER,  ID_OPEN_SEARCH_CHOOSER,  Route::kOpenMenuButton},
+    CommandRange{ID_BROWSE_FILE,          ID_BROWSE_FOLDER,        Route::kBrowse},
+    CommandRange{ID_OPEN_CONTROL_PANEL,   ID_OPEN_CONTROL_PANEL,   Route::kOpenMenuButton},
+    CommandRange{ID_ENTRY_FIRST,          ID_ENTRY_LAST,           Route::kRunEntry},
+    CommandRange{ID_SEARCH_FIRST,         ID_SEARCH_LAST,          Route::kChooseSearch},
+    CommandRange{ID_EXIT,                 ID_EXIT,                 Route::kExit},
+};
+// clang-format on
+
+consteval bool Ascending(const auto& ranges) {
+    for (std::size_t i = 0; i < ranges.size(); ++i) {
+        if (ranges[i].first > ranges[i].last) return false;
+        if (i > 0 && ranges[i].first <= ranges[i - 1].last) return false;
+    }
+    return true;
+}
+static_assert(Ascending(kCommandRanges));
+
+// Empty for a command that this edition does not know: it is ignored.
+[[nodiscard]] constexpr std::optional<Route> RouteOf(unsigned command) {
+    for (const CommandRange& range : kCommandRanges)
+        if (command >= range.first && command <= range.last) return range.route;
+    return std::nullopt;
+}
+
+// The button whose menu a keyboard command opens.
+[[nodiscard]] constexpr unsigned MenuButtonOf(unsigned command) {
+    switch (command) {
+    case ID_OPEN_SEARCH_CHOOSER:
+        return ID_SEARCH_CHOOSER;
+    case ID_OPEN_CONTROL_PANEL:
+        return ID_CONTROL_PANEL;
+    default:
+        return ID_MAIN_MENU;
+    }
+}
+
+// The keyboard's command for a history is the drop button's own plus this.
+inline constexpr unsigned kHistoryKeyOffset = ID_OPEN_COMMAND_HISTORY - ID_COMMAND_HISTORY;
+static_assert(kHistoryKeyOffset == 8 && ID_OPEN_SEARCH_HISTORY - ID_SEARCH_HISTORY == kHistoryKeyOffset);
+
+// A box's run button, and so the command that Enter in it gives, is the box's identifier plus this.
+inline constexpr unsigned kRunButtonOffset = ID_RUN_TYPED - ID_COMMAND_BOX;
+static_assert(kRunButtonOffset == 4 && ID_RUN_SEARCH - ID_SEARCH_BOX == kRunButtonOffset);
+
+} // namespace korvane::app

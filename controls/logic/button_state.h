@@ -1,0 +1,44 @@
+#pragma once
+
+#include <optional>
+
+#include "base/colour.h"
+
+namespace korvane::controls {
+
+// How a button looks. The numbers are the states of the visual styles' button parts.
+enum class ButtonState { kNormal = 1, kHot = 2, kPressed = 3, kDisabled = 4 };
+
+// What decides the look at the moment of painting.
+struct ButtonFacts {
+    bool pressed = false;
+    bool menuShown = false;
+    bool disabled = false;
+    bool hot = false;
+    bool focused = false;
+};
+
+// A button whose menu is open stays pressed although the mouse has long been let go.
+[[nodiscard]] constexpr ButtonState StateOf(const ButtonFacts& facts) {
+    if (facts.pressed || facts.menuShown) return ButtonState::kPressed;
+    if (facts.disabled) return ButtonState::kDisabled;
+    return facts.hot ? ButtonState::kHot : ButtonState::kNormal;
+}
+
+// A tool button may show the keyboard focus in the way it shows the mouse.
+[[nodiscard]] constexpr ButtonState ToolButtonState(const ButtonFacts& facts, bool focusLooksHot) {
+    const ButtonState state = StateOf(facts);
+    return state == ButtonState::kNormal && facts.focused && focusLooksHot ? ButtonState::kHot : state;
+}
+
+// A step button has no disabled look.
+[[nodiscard]] constexpr ButtonState StepButtonState(const ButtonFacts& facts) {
+    if (facts.pressed) return ButtonState::kPressed;
+    return facts.hot ? ButtonState::kHot : ButtonState::kNormal;
+}
+
+// The flat plate of a button for which the visual style has nothing: the background brightened on a dark ground and
+// darkened on a light one, more so when pressed. Empty where the background simply stays.
+[[nodiscard]] std::optional<base::Colour> PlateColour(base::Colour background, ButtonState state);
+
+} // namespace korvane::controls

@@ -1,0 +1,58 @@
+#pragma once
+
+#include <windows.h>
+
+#include <string>
+
+#include "framework/handle.h"
+#include "framework/message_map.h"
+
+namespace korvane::controls {
+
+// The tooltip control of one child window. It is a window of its own, owned by the child's parent.
+class ToolTip {
+public:
+    // False when Windows has no tooltip to give; the child then has none.
+    bool Create(HWND child, const std::wstring& text);
+    void SetText(const std::wstring& text) const;
+    void Destroy() { window_.Reset(); }
+    [[nodiscard]] HWND Handle() const { return window_.Get(); }
+
+private:
+    void Send(UINT message, const std::wstring& text) const;
+
+    fw::UniqueHandle<HWND, &::DestroyWindow> window_;
+    HWND child_ = nullptr;
+};
+
+// Mix-in of a child window T that is named by a tooltip: the text set, or else the window text at its creation.
+template <class T>
+class CToolTipHelper {
+public:
+    static constexpr auto Messages() { return fw::MessageMap{fw::On<WM_DESTROY>(&CToolTipHelper::OnDestroy)}; }
+
+    // May be called before the window is created.
+    void SetTip(const std::wstring& text) {
+        tipText_ = text;
+        tip_.SetText(tipText_);
+    }
+    [[nodiscard]] const std::wstring& TipText() const { return tipText_; }
+    [[nodiscard]] HWND TipWindow() const { return tip_.Handle(); }
+
+protected:
+    void CreateTip(const wchar_t* windowText) {
+        if (tipText_.empty() && windowText) tipText_ = windowText;
+        tip_.Create(static_cast<T&>(*this).Handle(), tipText_);
+    }
+
+private:
+    fw::Reply OnDestroy(const fw::Message&) {
+        tip_.Destroy();
+        return fw::kPassOn;
+    }
+
+    std::wstring tipText_;
+    ToolTip tip_;
+};
+
+} // namespace korvane::controls

@@ -1,0 +1,25 @@
+#pragma once
+
+#include "controls/bar_button.h"
+
+namespace korvane::controls {
+
+// A step button with an arrow to the left or right. A click reaches the parent as BN_CLICKED.
+class CUpDownButton final : public BarButton<CUpDownButton> {
+public:
+    static constexpr fw::WindowClass kClass{.name = L"UpDownButton_WndClass", .base = L"BUTTON"};
+
+    CUpDownButton(Direction direction, base::Colour arrow) : direction_{direction} { SetArrowColour(arrow); }
+
+    void SetArrowColour(base::Colour arrow);
+
+    // For the mix-ins.
+    void Paint(HDC dc, const base::Rect& area, const ButtonFacts& facts);
+    [[nodiscard]] const wchar_t* ThemeClasses() const;
+
+private:
+    Direction direction_;
+    fw::UniqueBrush arrow_;
+};
+
+} // namespace korvane::controls

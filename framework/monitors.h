@@ -1,0 +1,17 @@
+#pragma once
+
+#include <windows.h>
+
+#include <vector>
+
+#include "base/geometry.h"
+
+namespace fw {
+
+// The work areas of all monitors, the primary one first.
+[[nodiscard]] std::vector<korvane::base::Rect> WorkAreas();
+
+// The work area of the monitor that is nearest to a window.
+[[nodiscard]] korvane::base::Rect WorkAreaOf(HWND window);
+
+} // namespace fw

@@ -1,0 +1,17 @@
+#pragma once
+
+#include <windows.h>
+
+#include "launch/logic/command_entry.h"
+#include "settings/logic/profile_store.h"
+
+namespace korvane::launch {
+
+// The entry behind a command identifier from 4001 to 4027. The launch buttons (4025 and up) are read from the user's
+// settings first; what is not there comes from the string table.
+[[nodiscard]] CommandEntry LoadCommandEntry(UINT command, const settings::ProfileStore& store);
+
+// Starts an entry with the shell; gives the shell's result, which is an error code when it is 32 or less.
+[[nodiscard]] INT_PTR RunCommandEntry(const CommandEntry& entry);
+
+} // namespace korvane::launch

@@ -1,0 +1,23 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+
+namespace korvane::launch {
+
+// What a launch button or a control panel entry starts.
+struct CommandEntry {
+    std::wstring path;
+    std::wstring arguments;
+    std::wstring workingFolder;
+    std::wstring iconFile;
+    std::wstring iconIndexText;
+    std::wstring name;
+    int iconIndex = -1; // -1: no icon
+
+    [[nodiscard]] bool HasIcon() const { return !iconFile.empty() && iconIndex != -1; }
+};
+
+[[nodiscard]] CommandEntry ParseCommandEntry(std::wstring_view line);
+
+} // namespace korvane::launch

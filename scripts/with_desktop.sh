@@ -1,0 +1,66 @@
+#!/usr/bin/env bash
+# with_desktop.sh [--screen WxH] [--arch win32|win64] [--font FILE] [--name NAME] -- COMMAND [ARGUMENT...]
+# Runs a command on a desktop of its own: a virtual screen, a window manager and a freshly cloned Wine prefix with a
+# warm server. All of it is gone afterwards. --font adds a font to that Windows. Ends with the command's exit code.
+set -euo pipefail
+. "$(dirname "${BASH_SOURCE[0]}")/lib.sh"
+
+screen=1920x1080 arch=win32 name=desktop fonts=()
+while [ $# -gt 0 ]; do
+    case $1 in
+    --screen) screen=$2 && shift 2 ;;
+    --arch) arch=$2 && shift 2 ;;
+    --name) name=$2 && shift 2 ;;
+    --font) fonts+=("$2") && shift 2 ;;
+    --) shift && break ;;
+    *) die "unknown option $1" ;;
+    esac
+done
+[ $# -gt 0 ] || die 'no command given'
+
+desktops="$KORVANE_ROOT/build/wine/desktops"
+desktop="$desktops/$name.$$"
+DISPLAY_PIDS=''
+end_desktop() {
+    local status=$?
+    trap - EXIT
+    [ -d "$desktop/prefix" ] && (export WINEPREFIX="$desktop/prefix" && wine_server -k) 2>/dev/null
+    stop_display
+    rm -rf "$desktop"
+    exit "$status"
+}
+
+# A run that was killed could not clean up after itself; its process id is the folder's suffix.
+sweep_leftovers() {
+    local folder pid
+    for folder in "$desktops"/*.*; do
+        [ -d "$folder" ] && ! kill -0 "${folder##*.}" 2>/dev/null || continue
+        for pid in $(cat "$folder/pids" 2>/dev/null); do
+            case $(tr '\0' ' ' <"/proc/$pid/cmdline" 2>/dev/null) in
+            Xvfb\ -displayfd* | jwm\ -f\ *) kill "$pid" ;;
+            esac
+        done
+        (export WINEPREFIX="$folder/prefix" && wine_server -k) 2>/dev/null || true
+        rm -rf "$folder"
+    done
+}
+
+template=$(wine_template "$arch")
+sweep_leftovers
+trap end_desktop EXIT
+trap 'exit 130' INT
+trap 'exit 143' TERM
+
+mkdir -p "$desktop"
+clone_prefix "$template" "$desktop/prefix"
+for font in "${fonts[@]}"; do
+    cp --remove-destination "$font" "$desktop/prefix/drive_c/windows/Fonts/"
+done
+start_display "$screen" "$desktop"
+use_wine_environment
+export WINEPREFIX="$desktop/prefix"
+unset WINEARCH
+(wine_server -p60)
+# The first program starts the services and the desktop, which takes half a second that no test should pay.
+wine cmd /c exit >/dev/null 2>&1
+"$@"

@@ -1,0 +1,47 @@
+#include "app/logic/command_routes.h"
+
+#include <gtest/gtest.h>
+
+#include <string>
+
+using namespace korvane::app;
+
+namespace {
+
+struct RouteCase {
+    const char* name;
+    unsigned command;
+    std::optional<Route> expected;
+};
+
+class RouteOfCommand : public testing::TestWithParam<RouteCase> {};
+
+} // namespace
+
+TEST_P(RouteOfCommand, FollowsTheTable) {
+    EXPECT_EQ(RouteOf(GetParam().command), GetParam().expected);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Boundaries, RouteOfCommand,
+    testing::Values(RouteCase{"TheMainMenuButtonIsNoCommand", 2000, std::nullopt},
+                    RouteCase{"CommandHistory", 2003, Route::kOpenHistory},
+                    RouteCase{"SearchHistory", 2004, Route::kOpenHistory},
+                    RouteCase{"RunTyped", 2005, Route::kRunTyped}, RouteCase{"RunSearch", 2006, Route::kRunSearch},
+                    RouteCase{"MainMenuByKey", 2010, Route::kOpenMenuButton},
+                    RouteCase{"CommandHistoryByKey", 2011, Route::kPressHistoryButton},
+                    RouteCase{"SearchHistoryByKey", 2012, Route::kPressHistoryButton},
+                    RouteCase{"ChooserByKey", 2013, Route::kOpenMenuButton},
+                    RouteCase{"ControlPanelByKey", 4000, Route::kOpenMenuButton},
+                    RouteCase{"FirstEntry", 4001, Route::kRunEntry}, RouteCase{"LastEntry", 4027, Route::kRunEntry},
+                    RouteCase{"TheSearchSettings", 5000, std::nullopt},
+                    RouteCase{"FirstSearchCommand", 5001, Route::kChooseSearch},
+                    RouteCase{"LastSearchCommand", 5102, Route::kChooseSearch},
+                    RouteCase{"BeyondTheSearchCommands", 5103, std::nullopt}, RouteCase{"Exit", 57665, Route::kExit}),
+    [](const auto& tested) { return std::string{tested.param.name}; });
+
+TEST(MenuButtonOf, KnowsTheThreeMenusOfTheBar) {
+    EXPECT_EQ(MenuButtonOf(2010), 2000U);
+    EXPECT_EQ(MenuButtonOf(2013), 2007U);
+    EXPECT_EQ(MenuButtonOf(4000), 2008U);
+}
