@@ -186,6 +186,7 @@ private:
     // While one of these is set the bar is in use and must not hide.
     bool modalMessageOpen_ = false;
     bool popupOpen_ = false;
+    std::optional<search::Box> openHistory_;
     bool inputBusy_ = false;
 
     // Cleared only when the bar has to close itself.

@@ -71,13 +71,18 @@ void CMainFrame::RunEntry(UINT command) {
 }
 
 void CMainFrame::OpenHistory(UINT command) {
-    if (popupOpen_) return;
     const Box box = command == ID_SEARCH_HISTORY ? Box::kSearch : Box::kCommand;
+    if (popupOpen_) {
+        // The other history is still closing; this button was pressed for nothing. Its own stays pressed.
+        HistoryButton(box).SetMenuShown(openHistory_ == box);
+        return;
+    }
     const base::Rect& region = box == Box::kSearch ? layout_.searchRegion : layout_.commandRegion;
     RECT onScreen = fw::ToWindows(region);
     ::MapWindowPoints(Handle(), nullptr, reinterpret_cast<POINT*>(&onScreen), 2);
     HistoryButton(box).SetMenuShown(true);
     popupOpen_ = true;
+    openHistory_ = box;
     const HWND opened = search::CDropDownDialog::Open(
         *this, {.owner = Handle(),
                 .edit = BoxWindow(box).Handle(),
@@ -89,6 +94,7 @@ void CMainFrame::OpenHistory(UINT command) {
 
 void CMainFrame::OnDropDownClosed(Box box) {
     popupOpen_ = false;
+    openHistory_.reset();
     lastFocus_ = BoxWindow(box).Handle();
     HistoryButton(box).SetMenuShown(false);
 }
