@@ -16,7 +16,7 @@
 #include "framework/windows_version.h"
 #include "search/code_pages.h"
 #include "search/logic/command_selection.h"
-#include "settings/data_folder.h"
+#include "settings/logic/data_folder_path.h"
 #include "settings/logic/setting_keys.h"
 #include "settings/logic/window_placement.h"
 
@@ -25,10 +25,6 @@ namespace korvane::app {
 namespace keys = settings::keys;
 
 namespace {
-
-constexpr std::wstring_view kSettingsKey = L"Software\\Dunmere Software\\Korvane";
-constexpr std::wstring_view kCommandFile = L"Korvane.dat";
-constexpr std::wstring_view kUserCommandFile = L"UserCommand.dat";
 
 // The prompt-like picture before the command input box.
 constexpr const wchar_t* kCommandIconFile = L"shell32.dll";
@@ -40,9 +36,9 @@ constexpr DWORD kFloatingExtendedStyle = WS_EX_APPWINDOW | WS_EX_WINDOWEDGE;
 
 } // namespace
 
-CMainFrame::CMainFrame(fw::MessageLoop& loop, const HelpSession& help)
-    : loop_{loop}, help_{help}, settings_{HKEY_CURRENT_USER, kSettingsKey}, controls_{*this},
-      encoder_{search::WindowsTextEncoder()} {}
+CMainFrame::CMainFrame(fw::MessageLoop& loop, const HelpSession& help, FramePlaces places)
+    : loop_{loop}, help_{help}, places_{std::move(places)}, settings_{HKEY_CURRENT_USER, places_.settingsKey},
+      controls_{*this}, encoder_{search::WindowsTextEncoder()} {}
 
 CMainFrame::~CMainFrame() = default;
 
@@ -78,14 +74,14 @@ int CMainFrame::OnCreate(const CREATESTRUCTW&) {
 }
 
 bool CMainFrame::OpenStores() {
-    const settings::DataFolder folder = settings::FindDataFolder();
+    const settings::DataFolder folder = places_.findDataFolder();
     if (!folder.path) {
         creationError_ = folder.error;
         ReportError(folder.error);
         return false;
     }
-    standardCommands_.emplace(*folder.path + std::wstring{kCommandFile});
-    userCommands_.emplace(*folder.path + std::wstring{kUserCommandFile});
+    standardCommands_.emplace(settings::CommandFileIn(*folder.path));
+    userCommands_.emplace(settings::UserCommandFileIn(*folder.path));
     return true;
 }
 

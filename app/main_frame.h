@@ -2,6 +2,7 @@
 
 #include <windows.h>
 
+#include <functional>
 #include <optional>
 #include <string>
 
@@ -22,10 +23,17 @@
 #include "search/logic/history.h"
 #include "search/logic/search_commands.h"
 #include "search/win_process_starter.h"
+#include "settings/data_folder.h"
 #include "settings/ini_backend.h"
 #include "settings/registry_backend.h"
 
 namespace korvane::app {
+
+// Where the frame's state lives. The defaults are the program's; tests have a place of their own.
+struct FramePlaces {
+    std::wstring settingsKey = L"Software\\Dunmere Software\\Korvane"; // below HKEY_CURRENT_USER
+    std::function<settings::DataFolder()> findDataFolder = &settings::FindDataFolder;
+};
 
 // The bar: the one top-level window of the process. It owns every control on the bar, the stores, the fonts and
 // brushes, and is where every command arrives.
@@ -58,8 +66,8 @@ public:
         };
     }
 
-    // Both outlive the frame.
-    CMainFrame(fw::MessageLoop& loop, const HelpSession& help);
+    // Loop and session outlive the frame.
+    CMainFrame(fw::MessageLoop& loop, const HelpSession& help, FramePlaces places = {});
     ~CMainFrame() override;
 
     // False when Windows or one of the creation's own checks refused; what can be told to the user has been told then,
@@ -151,6 +159,7 @@ private:
 
     fw::MessageLoop& loop_;
     const HelpSession& help_;
+    FramePlaces places_;
     fw::MessageLoop::Registration filter_;
     fw::UniqueHandle<HACCEL, &::DestroyAcceleratorTable> accelerators_;
     fw::UniqueMenu menu_;
