@@ -5,6 +5,7 @@
 
 #include "framework/dpi.h"
 #include "framework/gdi.h"
+#include "framework/monitors.h"
 #include "framework/string_table.h"
 #include "framework/theme.h"
 #include "search/logic/drop_down_place.h"
@@ -17,14 +18,6 @@ constexpr int kFramePx = 1;
 
 // Characters; list views show no more of an item.
 constexpr std::size_t kLongestShown = 259;
-
-base::Rect WorkAreaAt(const base::Rect& region) {
-    const RECT at = fw::ToWindows(region);
-    MONITORINFO monitor{};
-    monitor.cbSize = sizeof monitor;
-    ::GetMonitorInfoW(::MonitorFromRect(&at, MONITOR_DEFAULTTONEAREST), &monitor);
-    return fw::FromWindows(monitor.rcWork);
-}
 
 } // namespace
 
@@ -64,7 +57,7 @@ bool CDropDownDialog::OnInitDialog(HWND) {
 
 void CDropDownDialog::MoveToBox() {
     const base::Rect place =
-        PlaceDropDown({setup_.region, fw::WindowRect(Handle()).Extent(), WorkAreaAt(setup_.region)});
+        PlaceDropDown({setup_.region, fw::WindowRect(Handle()).Extent(), fw::WorkAreaOf(setup_.edit)});
     ::SetWindowPos(Handle(), nullptr, place.left, place.top, place.Width(), place.Height(),
                    SWP_NOZORDER | SWP_NOACTIVATE);
 }
