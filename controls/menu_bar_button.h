@@ -25,7 +25,7 @@ public:
 
     // Pressed for as long as the menu is open, and redrawn at once.
     void SetMenuShown(bool shown) {
-        this->menuShown_ = shown;
+        MarkMenuShown(shown);
         if (this->Handle()) this->Redraw();
     }
     void ShowPressed() { SetMenuShown(true); }
@@ -53,10 +53,17 @@ protected:
     }
 
 private:
-    // The press goes on to the button procedure, which sets the focus and captures the mouse.
+    // The name of the button would only hide the first rows of what it opens.
+    void MarkMenuShown(bool shown) {
+        this->menuShown_ = shown;
+        this->AllowTip(!shown);
+    }
+
+    // The press goes on to the button procedure, which sets the focus and captures the mouse. A press while the menu is
+    // still open is meant to close it, which it has already done by taking the activation away from a pop-up.
     fw::Reply OnMenuPress(const fw::Message& m) {
-        if (!::IsWindowEnabled(m.window)) return LRESULT{0};
-        this->menuShown_ = true;
+        if (!::IsWindowEnabled(m.window) || this->menuShown_) return LRESULT{0};
+        MarkMenuShown(true);
         ::PostMessageW(m.window, kOpenMenuMessage, 0, 0);
         return fw::kPassOn;
     }

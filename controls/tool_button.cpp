@@ -3,6 +3,27 @@
 #include <utility>
 
 namespace korvane::controls {
+namespace {
+
+// Of 255: how much of the ground covers the icon of a disabled button.
+constexpr BYTE kDisabledCover = 155;
+
+void DrawIcon(HDC dc, const base::Rect& at, HICON icon) {
+    ::DrawIconEx(dc, at.left, at.top, icon, at.Width(), at.Height(), 0, nullptr, DI_NORMAL);
+}
+
+// An icon has no disabled look of its own; it recedes into the ground, so that nobody presses it in vain.
+void DrawReceding(HDC dc, const base::Rect& at, HICON icon) {
+    const fw::UniqueMemoryDc ground{::CreateCompatibleDC(dc)};
+    const fw::UniqueBitmap bitmap{::CreateCompatibleBitmap(dc, at.Width(), at.Height())};
+    const fw::SelectedObject selected{ground.Get(), bitmap.Get()};
+    ::BitBlt(ground.Get(), 0, 0, at.Width(), at.Height(), dc, at.left, at.top, SRCCOPY);
+    DrawIcon(dc, at, icon);
+    ::GdiAlphaBlend(dc, at.left, at.top, at.Width(), at.Height(), ground.Get(), 0, 0, at.Width(), at.Height(),
+                    {AC_SRC_OVER, 0, kDisabledCover, 0});
+}
+
+} // namespace
 
 void CToolButton::SetIcon(fw::UniqueIcon icon) {
     icon_ = std::move(icon);
@@ -40,7 +61,11 @@ void CToolButton::PaintImage(HDC dc, const base::Rect& area, ButtonState state) 
     const int side = fw::Scale()(kIconPx);
     const base::Rect at = Pushed(base::Centred(area, {side, side}), state, fw::Scale());
     if (icon_) {
-        ::DrawIconEx(dc, at.left, at.top, icon_.Get(), side, side, 0, nullptr, DI_NORMAL);
+        if (state == ButtonState::kDisabled) {
+            DrawReceding(dc, at, icon_.Get());
+        } else {
+            DrawIcon(dc, at, icon_.Get());
+        }
         return;
     }
     if (normalImages_ && imageIndex_ >= 0) {

@@ -40,6 +40,17 @@ public:
     [[nodiscard]] HWND TipWindow() const { return tip_.Handle(); }
 
 protected:
+    // Taken away for as long as something else is to be seen in its place. The window goes rather than being turned
+    // off: a tooltip whose delay has begun would come all the same.
+    void AllowTip(bool allowed) {
+        const HWND window = static_cast<T&>(*this).Handle();
+        if (!allowed) {
+            tip_.Destroy();
+        } else if (window && !tip_.Handle()) {
+            tip_.Create(window, tipText_);
+        }
+    }
+
     void CreateTip(const wchar_t* windowText) {
         if (tipText_.empty() && windowText) tipText_ = windowText;
         tip_.Create(static_cast<T&>(*this).Handle(), tipText_);

@@ -29,19 +29,26 @@ std::wstring ProductName() {
     return LoadText(IDS_PRODUCT);
 }
 
+// A null caption gives the platform's own.
+int Show(HWND owner, const wchar_t* text, const wchar_t* caption, UINT flags, Centring centring) {
+    if (!owner || centring == Centring::kNone) return ::MessageBoxW(owner, text, caption, flags);
+    if (!::IsWindow(owner)) {
+        ::MessageBoxW(nullptr, L"The window handle does not identify an existing window.", nullptr, MB_ICONERROR);
+        return 0;
+    }
+    RemoveHook();
+    g_centringHook =
+        ::SetWindowsHookExW(WH_CBT, &OnComputerBasedTraining, ::GetModuleHandleW(nullptr), ::GetCurrentThreadId());
+    const int answer = ::MessageBoxW(owner, text, caption, flags);
+    // A box that was never activated leaves the hook behind, which would then move whatever window comes next.
+    RemoveHook();
+    return answer;
+}
+
 } // namespace
 
 int ShowMessage(HWND owner, const std::wstring& text, const std::wstring& caption, UINT flags, Centring centring) {
-    if (owner && centring == Centring::kOnOwner) {
-        if (!::IsWindow(owner)) {
-            ::MessageBoxW(nullptr, L"The window handle does not identify an existing window.", nullptr, MB_ICONERROR);
-            return 0;
-        }
-        RemoveHook();
-        g_centringHook =
-            ::SetWindowsHookExW(WH_CBT, &OnComputerBasedTraining, ::GetModuleHandleW(nullptr), ::GetCurrentThreadId());
-    }
-    return ::MessageBoxW(owner, text.c_str(), caption.c_str(), flags);
+    return Show(owner, text.c_str(), caption.c_str(), flags, centring);
 }
 
 int ShowMessageById(HWND owner, UINT textId, UINT flags, Centring centring) {
@@ -58,8 +65,7 @@ int ShowProductMessage(HWND owner, const std::wstring& text, UINT flags, Centrin
 
 int ShowSystemError(HWND owner, DWORD code, const wchar_t* caption, Centring centring) {
     const std::wstring text = SystemErrorText(code != 0 ? code : ::GetLastError());
-    if (!caption) return ::MessageBoxW(owner, text.c_str(), nullptr, MB_ICONWARNING);
-    return ShowMessage(owner, text, caption, MB_ICONWARNING, centring);
+    return Show(owner, text.c_str(), caption, MB_ICONWARNING, centring);
 }
 
 int ShowProductSystemError(HWND owner, DWORD code, Centring centring) {

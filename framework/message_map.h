@@ -160,6 +160,12 @@ struct MessageEntry {
     }
 };
 
+// A menu choice and BN_CLICKED have the code 0, an accelerator 1: all three mean "do it". A control that sends 1 says
+// something else, such as CBN_SELCHANGE.
+constexpr bool IsDoIt(UINT code, LPARAM control) {
+    return code == 0 || (code == 1 && control == 0);
+}
+
 template <Key K, class Owner, class Method>
 struct CommandEntry {
     static constexpr Key key = K;
@@ -170,8 +176,7 @@ struct CommandEntry {
         const UINT id = LOWORD(m.wparam);
         const UINT code = HIWORD(m.wparam);
         if (id < K.first || id > K.last) return kPassOn;
-        // 0 is a menu choice or BN_CLICKED, 1 an accelerator: all three mean "do it".
-        if (K.kind == Kind::kCommand ? code > 1 : code != K.code) return kPassOn;
+        if (K.kind == Kind::kCommand ? !IsDoIt(code, m.lparam) : code != K.code) return kPassOn;
         auto call = [&](auto... arguments) -> decltype(auto) { return (self.*method)(arguments...); };
         if constexpr (std::is_invocable_v<Method, Owner&, UINT>) {
             return Answer(call, id);

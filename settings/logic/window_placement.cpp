@@ -9,7 +9,9 @@ namespace {
 
 using base::Rect;
 
-// Design pixels of the upper edge that must show. A smaller window must show whole.
+// Design pixels. A window is dragged by a strip at its upper edge, and so much of that strip must show. A smaller
+// window must show whole.
+constexpr int kStripHeightPx = 32;
 constexpr int kGripWidthPx = 64;
 constexpr int kGripHeightPx = 16;
 
@@ -25,8 +27,9 @@ bool CanBeAWindow(const Rect& rect) {
 bool CanBeGrasped(const Rect& rect, const Rect& workArea, const base::DpiScale& scale) {
     const int gripWidth = std::min(rect.Width(), scale(kGripWidthPx));
     const int gripHeight = std::min(rect.Height(), scale(kGripHeightPx));
-    const Rect edge{rect.left, rect.top, rect.right, rect.top + gripHeight};
-    const Rect visible = base::Intersection(edge, workArea);
+    const int stripHeight = std::min(rect.Height(), scale(kStripHeightPx));
+    const Rect strip{rect.left, rect.top, rect.right, rect.top + stripHeight};
+    const Rect visible = base::Intersection(strip, workArea);
     return visible.Width() >= gripWidth && visible.Height() >= gripHeight;
 }
 

@@ -37,6 +37,8 @@ INSTANTIATE_TEST_SUITE_P(
                     RouteCase{"TheSearchSettings", 5000, std::nullopt},
                     RouteCase{"FirstSearchCommand", 5001, Route::kChooseSearch},
                     RouteCase{"LastSearchCommand", 5102, Route::kChooseSearch},
+                    RouteCase{"BrowseForAFile", 2020, Route::kBrowseFile},
+                    RouteCase{"BrowseForAFolder", 2021, Route::kBrowseFolder},
                     RouteCase{"BeyondTheSearchCommands", 5103, std::nullopt}, RouteCase{"Exit", 57665, Route::kExit}),
     [](const auto& tested) { return std::string{tested.param.name}; });
 

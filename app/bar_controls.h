@@ -1,0 +1,60 @@
+#pragma once
+
+#include <windows.h>
+
+#include <array>
+
+#include "app/logic/bar_layout.h"
+#include "base/colour.h"
+#include "controls/bar_host.h"
+#include "controls/drop_down_button.h"
+#include "controls/exit_button.h"
+#include "controls/korvane_button.h"
+#include "controls/text_drop_button.h"
+#include "controls/time_bar_button.h"
+#include "controls/tool_button.h"
+#include "framework/image_list.h"
+#include "search/edit_ex.h"
+#include "settings/logic/profile_store.h"
+
+namespace korvane::app {
+
+// Every child window of the bar, with the icons that they show. Made with the frame and gone with it.
+class BarControls {
+public:
+    explicit BarControls(controls::BarHost& host);
+
+    // Creates the children in their order, with the sizes of the layout; false when Windows refused one.
+    [[nodiscard]] bool Create(HWND frame, HFONT barFont, const BarLayout& layout,
+                              const settings::ProfileStore& settings);
+    void Place(const BarLayout& layout);
+    void ShowClock(bool shown);
+    // The exit button belongs to the docked bar; a floating one has the close box of its caption.
+    void ShowExit(bool shown);
+    void SetColour(base::Colour barColour);
+    // Reads the three launch buttons' entries again and shows their names and icons.
+    void ReloadLaunchButtons(const settings::ProfileStore& settings);
+
+    controls::CKorvaneButton mainMenu;
+    search::CEditEx commandBox;
+    search::CEditEx searchBox;
+    controls::CDropDownButton commandHistory;
+    controls::CDropDownButton searchHistory;
+    controls::CTextDropButton searchChooser;
+    controls::CToolButton runTyped;
+    controls::CToolButton runSearch;
+    controls::CTextDropButton controlPanel;
+    std::array<controls::CToolButton, 3> launchButtons;
+    controls::CToolButton options;
+    controls::CToolButton help;
+    controls::CTimeBarButton clock;
+    controls::CExitButton exit;
+
+private:
+    [[nodiscard]] bool CreateBoxes(HWND frame, HFONT barFont, const BarLayout& layout);
+
+    fw::UniqueImageList toolImages_;
+    fw::UniqueImageList disabledToolImages_;
+};
+
+} // namespace korvane::app

@@ -1,0 +1,336 @@
+#include "app/main_frame.h"
+
+#include <shlwapi.h>
+
+#include "app/bar_font.h"
+#include "app/logic/bar_colours.h"
+#include "app/logic/command_routes.h"
+#include "app/logic/floating_window.h"
+#include "framework/dpi.h"
+#include "framework/gdi.h"
+#include "framework/icons.h"
+#include "framework/late_bound.h"
+#include "framework/monitors.h"
+#include "framework/scoped_flag.h"
+#include "framework/string_table.h"
+#include "framework/windows_version.h"
+#include "search/code_pages.h"
+#include "search/logic/command_selection.h"
+#include "settings/logic/data_folder_path.h"
+#include "settings/logic/setting_keys.h"
+#include "settings/logic/window_placement.h"
+
+namespace korvane::app {
+
+namespace keys = settings::keys;
+
+namespace {
+
+// The prompt-like picture before the command input box.
+constexpr const wchar_t* kCommandIconFile = L"shell32.dll";
+constexpr int kCommandIconIndex = 24;
+
+constexpr DWORD kFloatingStyle =
+    WS_CAPTION | WS_SYSMENU | WS_THICKFRAME | WS_MINIMIZEBOX | WS_MAXIMIZEBOX | WS_CLIPSIBLINGS | WS_CLIPCHILDREN;
+constexpr DWORD kFloatingExtendedStyle = WS_EX_APPWINDOW | WS_EX_WINDOWEDGE;
+
+} // namespace
+
+CMainFrame::CMainFrame(fw::MessageLoop& loop, const HelpSession& help, FramePlaces places)
+    : loop_{loop}, help_{help}, places_{std::move(places)}, settings_{HKEY_CURRENT_USER, places_.settingsKey},
+      controls_{*this}, encoder_{search::WindowsTextEncoder()} {}
+
+CMainFrame::~CMainFrame() = default;
+
+bool CMainFrame::CreateFrame() {
+    const std::wstring title = fw::LoadText(IDS_PRODUCT);
+    if (Create({.text = title.c_str(), .style = kFloatingStyle, .extendedStyle = kFloatingExtendedStyle})) return true;
+    // What failed inside the creation says more than what Windows leaves behind after it.
+    if (creationError_ != ERROR_SUCCESS) ::SetLastError(creationError_);
+    return false;
+}
+
+void CMainFrame::ShowFirst(int showCommand) {
+    ::ShowWindow(Handle(), showCommand);
+    ::UpdateWindow(Handle());
+}
+
+int CMainFrame::OnCreate(const CREATESTRUCTW&) {
+    if (!OpenStores() || !CommandFileIsThere()) return -1;
+    RegisterHotKeys();
+
+    icon_ = fw::LoadResourceIcon(IDI_KORVANE, ::GetSystemMetrics(SM_CXICON));
+    smallIcon_ = fw::LoadResourceIcon(IDI_KORVANE, ::GetSystemMetrics(SM_CXSMICON));
+    ::SendMessageW(Handle(), WM_SETICON, ICON_BIG, reinterpret_cast<LPARAM>(icon_.Get()));
+    ::SendMessageW(Handle(), WM_SETICON, ICON_SMALL, reinterpret_cast<LPARAM>(smallIcon_.Get()));
+
+    if (!CreateChildren()) return -1;
+    histories_.RestoreIfWanted(settings_);
+    systemColourAtStart_ = systemColour_;
+    RestorePlacement();
+    ApplySettings();
+    filter_ = loop_.Add(*this);
+    return 0;
+}
+
+bool CMainFrame::OpenStores() {
+    const settings::DataFolder folder = places_.findDataFolder();
+    if (!folder.path) {
+        creationError_ = folder.error;
+        ReportError(folder.error);
+        return false;
+    }
+    standardCommands_.emplace(settings::CommandFileIn(*folder.path));
+    userCommands_.emplace(settings::UserCommandFileIn(*folder.path));
+    return true;
+}
+
+bool CMainFrame::CommandFileIsThere() {
+    if (::PathFileExistsW(standardCommands_->Path().c_str())) return true;
+    creationError_ = ::GetLastError();
+    const fw::ScopedFlag modal{modalMessageOpen_};
+    fw::ShowMessageById(Handle(), IDS_REINSTALL, MB_ICONERROR);
+    return false;
+}
+
+void CMainFrame::RegisterHotKeys() {
+    showBarKey_.Register(Handle(), HOTKEY_SHOW_BAR, MOD_ALT | MOD_WIN, 'Z');
+    launchMenuKey_.Register(Handle(), HOTKEY_LAUNCH_MENU, MOD_ALT | MOD_WIN, 'X');
+}
+
+bool CMainFrame::CreateChildren() {
+    const HINSTANCE instance = ::GetModuleHandleW(nullptr);
+    barFont_ = MakeBarFont(fw::IsWindowsAtLeast(fw::kWindows8));
+    menu_.Reset(::LoadMenuW(instance, MAKEINTRESOURCEW(IDM_BAR)));
+    accelerators_.Reset(::LoadAcceleratorsW(instance, MAKEINTRESOURCEW(IDA_BAR)));
+    commandIcon_ = fw::ExtractSmallIcon(kCommandIconFile, kCommandIconIndex);
+    ReadColours();
+    layout_ = LayoutForClient();
+    if (!menu_ || !controls_.Create(Handle(), barFont_.Get(), layout_, settings_)) {
+        creationError_ = ::GetLastError();
+        return false;
+    }
+    lastFocus_ = controls_.commandBox.Handle();
+    return true;
+}
+
+void CMainFrame::RestorePlacement() {
+    const auto workAreas = fw::WorkAreas();
+    const base::Rect primary = workAreas.empty() ? base::Rect{} : workAreas.front();
+    windowRect_ = DefaultFloatingRect(primary, Borders(), fw::Scale());
+    if (settings_.Read(keys::SaveWindowPlacement) == 1) {
+        desktopBarMode_ = settings_.Read(keys::DefaultDesktopBarMode) == 1;
+        if (const auto bytes = settings_.Read(keys::WindowPosRect))
+            if (const auto saved = settings::DecodeRect(*bytes))
+                windowRect_ = settings::ReachableRect(*saved, workAreas, fw::Scale()).value_or(windowRect_);
+    }
+    windowRect_ = WithBarHeight(windowRect_, Borders(), fw::Scale());
+    const base::Rect place = windowRect_;
+    ::SetWindowPos(Handle(), nullptr, place.left, place.top, place.Width(), place.Height(),
+                   SWP_NOZORDER | SWP_NOACTIVATE);
+}
+
+void CMainFrame::ApplySettings() {
+    ReadColours();
+    ApplyColour();
+    ApplyTopmost();
+    controls_.clock.SetFormat(controls::ClockFormatOf(settings_.Read(keys::TimeBarClockFormat)));
+    clockShown_ = settings_.Read(keys::ShowTimeBarClock) > 0;
+    controls_.ShowClock(clockShown_);
+    controls_.ShowExit(false);
+    controls_.ReloadLaunchButtons(settings_);
+    BuildSearchCommandMenu();
+    LayOut();
+}
+
+void CMainFrame::ReadColours() {
+    // Without a desktop window manager there is no such colour, and black stands for it.
+    systemColour_ = base::Colour::FromArgb(fw::ColorizationColour().value_or(0));
+    const base::Colour user = settings_.Read(keys::UserBarColor, systemColourAtStart_.value_or(systemColour_));
+    barColour_ = BarColour(settings_.Read(keys::DefaultBarColor), systemColour_, user);
+}
+
+void CMainFrame::ApplyColour() {
+    barBrush_.Reset(::CreateSolidBrush(fw::ToWindows(barColour_)));
+    controls_.SetColour(barColour_);
+    RedrawAll();
+}
+
+void CMainFrame::ApplyTopmost() {
+    const bool topmost = settings_.Read(keys::TopMostWindow) > 0;
+    ::SetWindowPos(Handle(), topmost ? HWND_TOPMOST : HWND_NOTOPMOST, 0, 0, 0, 0,
+                   SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
+}
+
+void CMainFrame::RedrawAll() const {
+    ::RedrawWindow(Handle(), nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_ALLCHILDREN | RDW_UPDATENOW);
+}
+
+BarLayout CMainFrame::LayoutForClient() const {
+    return LayOutBar(fw::ClientRect(Handle()).Width(), {.clockShown = clockShown_,
+                                                        .windowMode = true,
+                                                        .windows7OrLater = fw::IsWindowsAtLeast(fw::kWindows7),
+                                                        .windows8OrLater = fw::IsWindowsAtLeast(fw::kWindows8),
+                                                        .scale = fw::Scale()});
+}
+
+void CMainFrame::LayOut() {
+    // Sizes also arrive while the frame is being created.
+    if (!controls_.exit.Handle()) return;
+    layout_ = LayoutForClient();
+    controls_.Place(layout_);
+    RememberWindowRect();
+    RedrawAll();
+}
+
+base::Size CMainFrame::Borders() const {
+    RECT frame{};
+    ::AdjustWindowRectEx(&frame, kFloatingStyle, FALSE, kFloatingExtendedStyle);
+    return fw::FromWindows(frame).Extent();
+}
+
+void CMainFrame::RememberWindowRect() {
+    if (!::IsIconic(Handle()) && !::IsZoomed(Handle())) windowRect_ = fw::WindowRect(Handle());
+}
+
+fw::Reply CMainFrame::OnClose() {
+    if (askBeforeExit_ && settings_.Read(keys::ConfirmExitApp) == 0 && Ask(fw::LoadText(IDS_CONFIRM_EXIT)) != IDYES)
+        return LRESULT{0};
+    SaveState();
+    return fw::kPassOn;
+}
+
+void CMainFrame::OnEndSession(bool ending) {
+    if (ending) SaveState();
+}
+
+void CMainFrame::SaveState() {
+    if (settings_.Read(keys::SaveWindowPlacement) == 1) {
+        settings_.Write(keys::DefaultDesktopBarMode, desktopBarMode_ ? 1 : 0);
+        settings_.Write(keys::WindowPosRect, settings::EncodeRect(windowRect_));
+    }
+    histories_.SaveIfWanted(settings_);
+}
+
+void CMainFrame::OnDestroy() {
+    help_.CloseWindows();
+    filter_.Reset();
+    showBarKey_.Unregister();
+    launchMenuKey_.Unregister();
+    ::PostQuitMessage(0);
+}
+
+fw::Reply CMainFrame::OnSize(UINT kind, SIZE) {
+    if (kind != SIZE_MINIMIZED) LayOut();
+    return fw::kPassOn;
+}
+
+fw::Reply CMainFrame::OnMove(const fw::Message&) {
+    if (::IsWindowVisible(Handle())) RememberWindowRect();
+    return fw::kPassOn;
+}
+
+void CMainFrame::OnGetMinMaxInfo(MINMAXINFO& info) {
+    const base::Size borders = Borders();
+    const LONG height = fw::Scale()(kBarHeightPx) + borders.height;
+    info.ptMinTrackSize.x = std::min<LONG>(NarrowestBarPx(fw::Scale()) + borders.width, info.ptMaxSize.x);
+    info.ptMinTrackSize.y = info.ptMaxTrackSize.y = info.ptMaxSize.y = height;
+}
+
+LRESULT CMainFrame::OnHitTest(const fw::Message& message) {
+    // The floating bar can be widened but never made taller: the upper border moves it, the lower one does nothing.
+    switch (const LRESULT place = Default(message)) {
+    case HTTOP:
+    case HTTOPLEFT:
+    case HTTOPRIGHT:
+        return HTCAPTION;
+    case HTBOTTOM:
+    case HTBOTTOMLEFT:
+    case HTBOTTOMRIGHT:
+        return HTCLIENT;
+    default:
+        return place;
+    }
+}
+
+bool CMainFrame::OnEraseBackground(HDC dc) {
+    const RECT client = fw::ToWindows(fw::ClientRect(Handle()));
+    ::FillRect(dc, &client, barBrush_.Get());
+    for (const base::Rect& region : {layout_.commandRegion, layout_.searchRegion}) {
+        const RECT field = fw::ToWindows(region);
+        ::FillRect(dc, &field, ::GetSysColorBrush(COLOR_WINDOW));
+    }
+    const base::Rect& icon = layout_.commandIcon;
+    if (commandIcon_)
+        ::DrawIconEx(dc, icon.left, icon.top, commandIcon_.Get(), icon.Width(), icon.Height(), 0, nullptr, DI_NORMAL);
+    return true;
+}
+
+void CMainFrame::OnSetFocus(const fw::Message&) {
+    ::SetFocus(lastFocus_);
+}
+
+fw::Reply CMainFrame::OnActivate(UINT how, bool) {
+    // The default procedure gives the focus to the frame on the way back, and the frame passes it on.
+    const HWND focus = ::GetFocus();
+    const bool inBox = focus == controls_.commandBox.Handle() || focus == controls_.searchBox.Handle();
+    if (how == WA_INACTIVE && inBox) lastFocus_ = focus;
+    return fw::kPassOn;
+}
+
+void CMainFrame::OnColorizationChanged() {
+    ReadColours();
+    ApplyColour();
+}
+
+void CMainFrame::OnBoxChanged(UINT boxId) {
+    const bool empty = ::GetWindowTextLengthW(::GetDlgItem(Handle(), static_cast<int>(boxId))) == 0;
+    const HWND button = ::GetDlgItem(Handle(), static_cast<int>(boxId + kRunButtonOffset));
+    ::EnableWindow(button, !empty);
+    ::RedrawWindow(button, nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_UPDATENOW);
+}
+
+// A control of the bar may know better than the frame what its notification means.
+fw::Reply CMainFrame::OnControlCommand(const fw::Message& message) {
+    return message.lparam != 0 ? Reflect(message) : fw::Reply{};
+}
+
+fw::Reply CMainFrame::OnDrawItem(const fw::Message& message) {
+    return Reflect(message);
+}
+
+fw::Reply CMainFrame::OnNotify(const fw::Message& message) {
+    return Reflect(message);
+}
+
+HMENU CMainFrame::Popup(int position) const {
+    return ::GetSubMenu(menu_.Get(), position);
+}
+
+UINT CMainFrame::TrackPopup(int position, UINT flags, POINT at) {
+    const fw::ScopedFlag busy{inputBusy_};
+    return static_cast<UINT>(::TrackPopupMenuEx(Popup(position), flags, at.x, at.y, Handle(), nullptr));
+}
+
+bool CMainFrame::PreTranslate(const MSG& message) {
+    if (message.hwnd != Handle() && !::IsChild(Handle(), message.hwnd)) return false;
+
+    if (message.message == WM_KEYDOWN && message.wParam == VK_RETURN) {
+        const int id = ::GetDlgCtrlID(message.hwnd);
+        auto* const box = dynamic_cast<search::CEditEx*>(WindowObject::From(message.hwnd));
+        const search::KeyDecision decision =
+            search::CommandForKey({.virtualKey = static_cast<unsigned>(message.wParam),
+                                   .controlId = id,
+                                   .enterEnabled = settings_.Read(keys::EnableEnterEvent) == 1,
+                                   .composing = box && box->Composing(),
+                                   .boxEmpty = ::GetWindowTextLengthW(message.hwnd) == 0});
+        if (decision.answer == search::KeyAnswer::kRun)
+            ::PostMessageW(Handle(), WM_COMMAND, static_cast<WPARAM>(decision.command), 0);
+        if (decision.answer != search::KeyAnswer::kPassOn) return true;
+    }
+    MSG translated = message;
+    return ::TranslateAcceleratorW(Handle(), accelerators_.Get(), &translated) ||
+           ::IsDialogMessageW(Handle(), &translated);
+}
+
+} // namespace korvane::app

@@ -1,0 +1,206 @@
+#pragma once
+
+#include <windows.h>
+
+#include <functional>
+#include <optional>
+#include <string>
+
+#include "app/bar_controls.h"
+#include "app/help_session.h"
+#include "app/logic/bar_layout.h"
+#include "base/colour.h"
+#include "base/geometry.h"
+#include "controls/bar_host.h"
+#include "framework/centred_message_box.h"
+#include "framework/handle.h"
+#include "framework/hot_key.h"
+#include "framework/message_loop.h"
+#include "framework/window.h"
+#include "res/ids.h"
+#include "search/drop_down_dialog.h"
+#include "search/logic/execute_search.h"
+#include "search/logic/history.h"
+#include "search/logic/search_commands.h"
+#include "search/win_process_starter.h"
+#include "settings/data_folder.h"
+#include "settings/ini_backend.h"
+#include "settings/registry_backend.h"
+
+namespace korvane::app {
+
+// Where the frame's state lives. The defaults are the program's; tests have a place of their own.
+struct FramePlaces {
+    std::wstring settingsKey = L"Software\\Dunmere Software\\Korvane"; // below HKEY_CURRENT_USER
+    std::function<settings::DataFolder()> findDataFolder = &settings::FindDataFolder;
+};
+
+// The bar: the one top-level window of the process. It owns every control on the bar, the stores, the fonts and
+// brushes, and is where every command arrives.
+class CMainFrame final : public fw::Window<CMainFrame>,
+                         public controls::BarHost,
+                         public search::HistoryDropDownHost,
+                         private fw::MessageFilter {
+public:
+    static constexpr fw::WindowClass kClass{.name = L"Korvane_WndClass"};
+
+    static constexpr auto Messages() {
+        return fw::MessageMap{
+            fw::On<WM_CREATE>(&CMainFrame::OnCreate),
+            fw::On<WM_DESTROY>(&CMainFrame::OnDestroy),
+            fw::On<WM_CLOSE>(&CMainFrame::OnClose),
+            fw::On<WM_ENDSESSION>(&CMainFrame::OnEndSession),
+            fw::On<WM_SIZE>(&CMainFrame::OnSize),
+            fw::On<WM_MOVE>(&CMainFrame::OnMove),
+            fw::On<WM_GETMINMAXINFO>(&CMainFrame::OnGetMinMaxInfo),
+            fw::On<WM_NCHITTEST>(&CMainFrame::OnHitTest),
+            fw::On<WM_ERASEBKGND>(&CMainFrame::OnEraseBackground),
+            fw::On<WM_SETFOCUS>(&CMainFrame::OnSetFocus),
+            fw::On<WM_ACTIVATE>(&CMainFrame::OnActivate),
+            fw::On<WM_DWMCOLORIZATIONCOLORCHANGED>(&CMainFrame::OnColorizationChanged),
+            fw::On<WM_COMMAND>(&CMainFrame::OnControlCommand),
+            fw::OnControl<ID_COMMAND_BOX, ID_SEARCH_BOX, EN_CHANGE>(&CMainFrame::OnBoxChanged),
+            fw::OnCommand<ID_COMMAND_HISTORY, ID_HELP_CONTENTS>(&CMainFrame::OnCommand),
+            fw::On<WM_DRAWITEM>(&CMainFrame::OnDrawItem),
+            fw::On<WM_NOTIFY>(&CMainFrame::OnNotify),
+        };
+    }
+
+    // Loop and session outlive the frame.
+    CMainFrame(fw::MessageLoop& loop, const HelpSession& help, FramePlaces places = {});
+    ~CMainFrame() override;
+
+    // False when Windows or one of the creation's own checks refused; what can be told to the user has been told then,
+    // and the thread's last error says the rest.
+    [[nodiscard]] bool CreateFrame();
+    void ShowFirst(int showCommand);
+
+    // Reads every general setting again and applies it. Called at creation and whenever the options were confirmed.
+    void ApplySettings();
+
+    // Rebuilds the search commands' menu from the stores. The first command becomes the current one.
+    void BuildSearchCommandMenu();
+    // Hands the search box's text to the current search command.
+    void ExecuteSearchCommand();
+    // Starts what stands in the command input box.
+    void RunTypedCommand();
+    // controls::BarHost
+    [[nodiscard]] HFONT BarFont() const override { return barFont_.Get(); }
+    [[nodiscard]] HMENU Popup(int position) const override;
+    UINT TrackPopup(int position, UINT flags, POINT at) override;
+
+    // search::HistoryDropDownHost
+    void OnDropDownClosed(search::Box box) override;
+    void BrowseFile() override;
+    void BrowseFolder() override;
+    // Asks, then empties one history and its box.
+    void ClearHistory(search::Box box) override;
+
+private:
+    bool PreTranslate(const MSG& message) override;
+
+    // Handlers.
+    int OnCreate(const CREATESTRUCTW& creation);
+    void OnDestroy();
+    fw::Reply OnClose();
+    void OnEndSession(bool ending);
+    fw::Reply OnSize(UINT kind, SIZE client);
+    fw::Reply OnMove(const fw::Message& message);
+    void OnGetMinMaxInfo(MINMAXINFO& info);
+    LRESULT OnHitTest(const fw::Message& message);
+    bool OnEraseBackground(HDC dc);
+    void OnSetFocus(const fw::Message& message);
+    fw::Reply OnActivate(UINT how, bool minimised);
+    void OnColorizationChanged();
+    void OnBoxChanged(UINT boxId);
+    fw::Reply OnControlCommand(const fw::Message& message);
+    fw::Reply OnCommand(UINT command);
+    fw::Reply OnDrawItem(const fw::Message& message);
+    fw::Reply OnNotify(const fw::Message& message);
+
+    // Creation, in this order. False fails it.
+    bool OpenStores();
+    bool CommandFileIsThere();
+    void RegisterHotKeys();
+    bool CreateChildren();
+    void RestorePlacement();
+
+    // Applying settings.
+    void ReadColours();
+    void ApplyColour();
+    void ApplyTopmost();
+
+    void SaveState();
+    [[nodiscard]] BarLayout LayoutForClient() const;
+    void LayOut();
+    void RedrawAll() const;
+    [[nodiscard]] base::Size Borders() const;
+    void RememberWindowRect();
+
+    // Commands.
+    void OpenHistory(UINT command);
+    void PressHistoryButton(UINT command);
+    void OpenMenuButton(UINT command);
+    void EnterPickedPath(const std::optional<std::wstring>& path);
+    void RunEntry(UINT command);
+    void ChooseSearchCommand(UINT command);
+    void MakeCurrent(search::SearchCommandId id, const std::wstring& name);
+
+    // A text of the search menu.
+    [[nodiscard]] std::wstring MenuText(UINT command) const;
+    [[nodiscard]] search::CEditEx& BoxWindow(search::Box box);
+    [[nodiscard]] controls::CDropDownButton& HistoryButton(search::Box box);
+    [[nodiscard]] search::SearchStores Stores();
+
+    // Message boxes of the frame: the modal flag is set while they are up.
+    int Ask(const std::wstring& text);
+    void Warn(const std::wstring& text);
+    void ReportError(DWORD code, fw::Centring centring = fw::Centring::kOnOwner);
+
+    fw::MessageLoop& loop_;
+    const HelpSession& help_;
+    FramePlaces places_;
+    fw::MessageLoop::Registration filter_;
+    fw::UniqueHandle<HACCEL, &::DestroyAcceleratorTable> accelerators_;
+    fw::UniqueMenu menu_;
+    fw::HotKey showBarKey_;
+    fw::HotKey launchMenuKey_;
+
+    settings::RegistryStore settings_;
+    std::optional<settings::IniFileStore> standardCommands_;
+    std::optional<settings::IniFileStore> userCommands_;
+    search::Histories histories_;
+
+    BarControls controls_;
+    BarLayout layout_;
+    fw::UniqueFont barFont_;
+    fw::UniqueBrush barBrush_;
+    fw::UniqueIcon commandIcon_;
+    fw::UniqueIcon icon_;
+    fw::UniqueIcon smallIcon_;
+    base::Colour barColour_;
+    base::Colour systemColour_;
+    std::optional<base::Colour> systemColourAtStart_;
+
+    search::SearchCommandId currentSearch_;
+    search::WinProcessStarter starter_;
+    search::SearchTextEncoder encoder_;
+
+    // The docked state that was saved; kept as it is until the bar can dock.
+    bool desktopBarMode_ = false;
+    bool clockShown_ = false;
+    base::Rect windowRect_;
+    HWND lastFocus_ = nullptr;
+
+    // While one of these is set the bar is in use and must not hide.
+    bool modalMessageOpen_ = false;
+    bool popupOpen_ = false;
+    std::optional<search::Box> openHistory_;
+    bool inputBusy_ = false;
+
+    // Cleared only when the bar has to close itself.
+    bool askBeforeExit_ = true;
+    DWORD creationError_ = ERROR_SUCCESS;
+};
+
+} // namespace korvane::app

@@ -1,0 +1,219 @@
+// What the frame does when a command arrives.
+#include <variant>
+
+#include "app/logic/command_routes.h"
+#include "app/main_frame.h"
+#include "framework/gdi.h"
+#include "framework/scoped_flag.h"
+#include "framework/string_table.h"
+#include "launch/command_entries.h"
+#include "search/logic/typed_command.h"
+#include "search/path_pickers.h"
+#include "settings/logic/setting_keys.h"
+
+namespace korvane::app {
+
+using search::Box;
+
+fw::Reply CMainFrame::OnCommand(UINT command) {
+    const std::optional<Route> route = RouteOf(command);
+    if (!route) return fw::kPassOn;
+    switch (*route) {
+    case Route::kRunTyped:
+        RunTypedCommand();
+        break;
+    case Route::kRunSearch:
+        ExecuteSearchCommand();
+        break;
+    case Route::kOpenHistory:
+        OpenHistory(command);
+        break;
+    case Route::kOpenMenuButton:
+        OpenMenuButton(command);
+        break;
+    case Route::kPressHistoryButton:
+        PressHistoryButton(command);
+        break;
+    case Route::kBrowseFile:
+        BrowseFile();
+        break;
+    case Route::kBrowseFolder:
+        BrowseFolder();
+        break;
+    case Route::kRunEntry:
+        RunEntry(command);
+        break;
+    case Route::kChooseSearch:
+        ChooseSearchCommand(command);
+        break;
+    case Route::kExit:
+        ::PostMessageW(Handle(), WM_CLOSE, 0, 0);
+        break;
+    }
+    return LRESULT{0};
+}
+
+void CMainFrame::RunTypedCommand() {
+    const std::wstring text = controls_.commandBox.Text();
+    const search::RunOutcome outcome = search::RunTypedCommand(text, starter_);
+    if (outcome.Started()) {
+        histories_.Of(Box::kCommand).Add(text);
+    } else {
+        ReportError(outcome.error);
+    }
+}
+
+void CMainFrame::RunEntry(UINT command) {
+    const INT_PTR result = launch::RunCommandEntry(launch::LoadCommandEntry(command, settings_));
+    constexpr INT_PTR kLastFailure = 32;
+    // The shell's result is shown as a system error code on purpose, also where the two numberings differ.
+    if (result <= kLastFailure) ReportError(static_cast<DWORD>(result), fw::Centring::kNone);
+}
+
+void CMainFrame::OpenHistory(UINT command) {
+    const Box box = command == ID_SEARCH_HISTORY ? Box::kSearch : Box::kCommand;
+    if (popupOpen_) {
+        // The other history is still closing; this button was pressed for nothing. Its own stays pressed.
+        HistoryButton(box).SetMenuShown(openHistory_ == box);
+        return;
+    }
+    const base::Rect& region = box == Box::kSearch ? layout_.searchRegion : layout_.commandRegion;
+    RECT onScreen = fw::ToWindows(region);
+    ::MapWindowPoints(Handle(), nullptr, reinterpret_cast<POINT*>(&onScreen), 2);
+    HistoryButton(box).SetMenuShown(true);
+    popupOpen_ = true;
+    openHistory_ = box;
+    const HWND opened = search::CDropDownDialog::Open(
+        *this, {.owner = Handle(),
+                .edit = BoxWindow(box).Handle(),
+                .box = box,
+                .region = fw::FromWindows(onScreen),
+                .rows = search::PlanHistoryRows(box, histories_.Of(box).Entries(), search::LoadHistoryRowTexts())});
+    if (!opened) OnDropDownClosed(box);
+}
+
+void CMainFrame::OnDropDownClosed(Box box) {
+    popupOpen_ = false;
+    openHistory_.reset();
+    lastFocus_ = BoxWindow(box).Handle();
+    HistoryButton(box).SetMenuShown(false);
+}
+
+void CMainFrame::PressHistoryButton(UINT command) {
+    const UINT opens = command - kHistoryKeyOffset;
+    HistoryButton(opens == ID_SEARCH_HISTORY ? Box::kSearch : Box::kCommand).ShowPressed();
+    ::PostMessageW(Handle(), WM_COMMAND, opens, 0);
+}
+
+void CMainFrame::OpenMenuButton(UINT command) {
+    const HWND button = ::GetDlgItem(Handle(), static_cast<int>(MenuButtonOf(command)));
+    ::PostMessageW(button, WM_LBUTTONDOWN, MK_LBUTTON, 0);
+}
+
+void CMainFrame::BrowseFile() {
+    const fw::ScopedFlag busy{inputBusy_};
+    EnterPickedPath(search::PickFile(Handle(), fw::LoadText(IDS_ALL_FILES_FILTER)));
+}
+
+void CMainFrame::BrowseFolder() {
+    const fw::ScopedFlag busy{inputBusy_};
+    EnterPickedPath(
+        search::PickFolder(Handle(), fw::LoadText(IDS_BROWSE_FOLDER_TITLE), fw::LoadText(IDS_BROWSE_FOLDER_PROMPT)));
+}
+
+void CMainFrame::EnterPickedPath(const std::optional<std::wstring>& path) {
+    if (!path) return;
+    search::CEditEx& box = controls_.commandBox;
+    // A text that ends in a blank waits for its next argument.
+    const std::wstring text = box.Text();
+    const auto entry = text.ends_with(L' ') ? search::PathEntry::kAppend : search::PathEntry::kReplace;
+    box.SetText(search::WithPickedPath(text, *path, entry));
+    ::SetFocus(box.Handle());
+}
+
+void CMainFrame::ClearHistory(Box box) {
+    const std::wstring name = fw::LoadText(box == Box::kSearch ? IDS_SEARCH_BOX : IDS_COMMAND_BOX);
+    if (Ask(fw::FormatResource(IDS_CLEAR_HISTORY, std::wstring_view{name})) != IDYES) return;
+    histories_.Of(box).Clear();
+    BoxWindow(box).SetText(L"");
+}
+
+void CMainFrame::BuildSearchCommandMenu() {
+    const HMENU menu = Popup(POPUP_SEARCH);
+    for (int at = ::GetMenuItemCount(menu) - 1; at >= 0; --at) ::DeleteMenu(menu, static_cast<UINT>(at), MF_BYPOSITION);
+
+    const search::SearchMenuPlan plan = search::PlanSearchMenu(Stores(), fw::LoadText(IDS_SEARCH_SETTINGS));
+    for (const search::SearchMenuRow& row : plan.rows) {
+        const UINT state = row.IsSeparator() ? MF_SEPARATOR : MF_STRING;
+        ::AppendMenuW(menu, state, static_cast<UINT_PTR>(row.id), row.text.c_str());
+    }
+    // There is no dialog behind it yet.
+    ::EnableMenuItem(menu, ID_SEARCH_SETTINGS, MF_BYCOMMAND | MF_GRAYED);
+    MakeCurrent(search::SearchCommandId{plan.current.id}, plan.current.text);
+}
+
+void CMainFrame::MakeCurrent(search::SearchCommandId id, const std::wstring& name) {
+    currentSearch_ = id;
+    ::SetWindowTextW(controls_.searchChooser.Handle(), name.c_str());
+    controls_.searchChooser.Redraw();
+    ::CheckMenuRadioItem(Popup(POPUP_SEARCH), ID_SEARCH_FIRST, ID_SEARCH_LAST, static_cast<UINT>(id.Value()),
+                         MF_BYCOMMAND);
+}
+
+void CMainFrame::ChooseSearchCommand(UINT command) {
+    MakeCurrent(search::SearchCommandId{static_cast<int>(command)}, MenuText(command));
+    if (::IsWindowEnabled(controls_.runSearch.Handle())) ExecuteSearchCommand();
+}
+
+std::wstring CMainFrame::MenuText(UINT command) const {
+    const HMENU menu = Popup(POPUP_SEARCH);
+    std::wstring text(static_cast<std::size_t>(::GetMenuStringW(menu, command, nullptr, 0, MF_BYCOMMAND)), L'\0');
+    const int length = ::GetMenuStringW(menu, command, text.data(), static_cast<int>(text.size()) + 1, MF_BYCOMMAND);
+    text.resize(static_cast<std::size_t>(length));
+    return text;
+}
+
+void CMainFrame::ExecuteSearchCommand() {
+    const std::wstring text = controls_.searchBox.Text();
+    const auto outcome = search::ExecuteSearch(
+        {.command = currentSearch_, .text = text, .menuName = MenuText(static_cast<UINT>(currentSearch_.Value()))},
+        Stores(), encoder_, starter_);
+    if (std::holds_alternative<search::SearchStarted>(outcome)) {
+        histories_.Of(Box::kSearch).Add(text);
+    } else if (const auto* const failed = std::get_if<search::SearchFailed>(&outcome)) {
+        ReportError(failed->error);
+    } else if (const auto* const refusal = std::get_if<search::Refusal>(&outcome)) {
+        if (!refusal->silent) Warn(fw::FormatResource(refusal->messageId, std::wstring_view{refusal->argument}));
+    } else if (const auto* const editor = std::get_if<search::EditorSearch>(&outcome)) {
+        Warn(fw::FormatResource(IDS_TOOL_NOT_FOUND, search::ProgramNameOf(editor->tool)));
+    }
+}
+
+search::CEditEx& CMainFrame::BoxWindow(Box box) {
+    return box == Box::kSearch ? controls_.searchBox : controls_.commandBox;
+}
+
+controls::CDropDownButton& CMainFrame::HistoryButton(Box box) {
+    return box == Box::kSearch ? controls_.searchHistory : controls_.commandHistory;
+}
+
+search::SearchStores CMainFrame::Stores() {
+    return {settings_, *standardCommands_, *userCommands_};
+}
+
+int CMainFrame::Ask(const std::wstring& text) {
+    const fw::ScopedFlag modal{modalMessageOpen_};
+    return fw::ShowProductMessage(Handle(), text, MB_YESNOCANCEL | MB_ICONQUESTION);
+}
+
+void CMainFrame::Warn(const std::wstring& text) {
+    const fw::ScopedFlag modal{modalMessageOpen_};
+    fw::ShowProductMessage(Handle(), text, MB_ICONEXCLAMATION);
+}
+
+void CMainFrame::ReportError(DWORD code, fw::Centring centring) {
+    const fw::ScopedFlag modal{modalMessageOpen_};
+    fw::ShowProductSystemError(Handle(), code, centring);
+}
+
+} // namespace korvane::app

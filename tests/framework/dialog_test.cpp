@@ -1,0 +1,145 @@
+#include "framework/dialog.h"
+
+#include <gmock/gmock.h>
+
+#include <functional>
+#include <string>
+
+#include "tests/framework/test_ids.h"
+#include "tests/support/window_test.h"
+
+namespace fw {
+namespace {
+
+constexpr UINT kAsk = WM_APP + 10;
+constexpr UINT kDecline = WM_APP + 11;
+
+class TestDialog final : public Dialog<TestDialog> {
+public:
+    static constexpr UINT kTemplate = IDD_TEST_DIALOG;
+    static constexpr auto Messages() {
+        return MessageMap{
+            On<WM_INITDIALOG>(&TestDialog::OnInitDialog),
+            On<WM_DESTROY>(&TestDialog::OnDestroy),
+            On<kAsk>(&TestDialog::OnAsk),
+            On<kDecline>(&TestDialog::OnDecline),
+            On<WM_CTLCOLORSTATIC>(&TestDialog::OnColour),
+            OnCommand<IDC_TEST_BUTTON>(&TestDialog::OnButton),
+        };
+    }
+
+    explicit TestDialog(std::string& log) : log_{log} {}
+
+    std::function<void()> onInit;
+
+protected:
+    void OnFinalMessage() override { log_ += Handle() ? "final while bound;" : "final;"; }
+
+private:
+    bool OnInitDialog(HWND firstControl) {
+        log_ += "init " + std::to_string(::GetDlgCtrlID(firstControl)) + ";";
+        if (onInit) onInit();
+        return true;
+    }
+    Reply OnDestroy() {
+        log_ += "destroy;";
+        return kPassOn;
+    }
+    LRESULT OnAsk(const Message& m) { return static_cast<LRESULT>(m.wparam) * 2; }
+    Reply OnDecline(const Message&) { return kPassOn; }
+    HBRUSH OnColour(const Message&) { return static_cast<HBRUSH>(::GetStockObject(DKGRAY_BRUSH)); }
+    void OnButton() { log_ += "button;"; }
+
+    std::string& log_;
+};
+
+class MissingDialog final : public Dialog<MissingDialog> {
+public:
+    static constexpr UINT kTemplate = IDD_TEST_DIALOG + 1000;
+    static constexpr auto Messages() { return MessageMap{}; }
+};
+
+class DialogTest : public korvane::test::WindowTest {
+protected:
+    std::string log;
+    TestDialog dialog{log};
+};
+
+TEST_F(DialogTest, EndsWithTheResultThatItIsGiven) {
+    dialog.onInit = [&] { ::EndDialog(dialog.Handle(), 42); };
+
+    EXPECT_EQ(dialog.ShowModal(nullptr), 42);
+
+    EXPECT_EQ(log, "init 30002;destroy;final;");
+    EXPECT_EQ(dialog.Handle(), nullptr);
+}
+
+TEST_F(DialogTest, CannotBeShownWithoutItsTemplate) {
+    MissingDialog missing;
+
+    EXPECT_EQ(missing.ShowModal(nullptr), -1);
+    EXPECT_FALSE(missing.Create(Host()));
+    EXPECT_EQ(missing.Handle(), nullptr);
+}
+
+TEST_F(DialogTest, ReturnsTheResultOfAMessageOfItsOwn) {
+    ASSERT_TRUE(dialog.Create(Host()));
+
+    EXPECT_EQ(Send(dialog.Handle(), kAsk, 21), 42);
+}
+
+TEST_F(DialogTest, ReturnsABrushForAControlsColour) {
+    ASSERT_TRUE(dialog.Create(Host()));
+    const HWND button = ::GetDlgItem(dialog.Handle(), IDC_TEST_BUTTON);
+    const WindowDc dc{button};
+
+    const LRESULT brush =
+        Send(dialog.Handle(), WM_CTLCOLORSTATIC, reinterpret_cast<WPARAM>(dc.Get()), reinterpret_cast<LPARAM>(button));
+
+    EXPECT_EQ(reinterpret_cast<HGDIOBJ>(brush), ::GetStockObject(DKGRAY_BRUSH));
+}
+
+TEST_F(DialogTest, LeavesWhatItDeclinesToTheDialogManager) {
+    ASSERT_TRUE(dialog.Create(Host()));
+
+    EXPECT_EQ(Send(dialog.Handle(), kDecline), 0);
+    Send(dialog.Handle(), DM_SETDEFID, IDC_TEST_BUTTON);
+    EXPECT_EQ(LOWORD(Send(dialog.Handle(), DM_GETDEFID)), IDC_TEST_BUTTON);
+}
+
+TEST_F(DialogTest, HearsItsControls) {
+    ASSERT_TRUE(dialog.Create(Host()));
+    log.clear();
+
+    Send(::GetDlgItem(dialog.Handle(), IDC_TEST_BUTTON), BM_CLICK);
+
+    EXPECT_EQ(log, "button;");
+}
+
+TEST_F(DialogTest, OutlivesItsWindow) {
+    ASSERT_TRUE(dialog.Create(Host()));
+    const HWND window = dialog.Handle();
+    log.clear();
+
+    ::DestroyWindow(window);
+
+    EXPECT_EQ(dialog.Handle(), nullptr);
+    EXPECT_EQ(WindowObject::From(window), nullptr);
+    EXPECT_EQ(log, "destroy;final;");
+}
+
+TEST_F(DialogTest, TakesItsWindowAlongWithoutHearingOfIt) {
+    HWND window = nullptr;
+    {
+        TestDialog shortLived{log};
+        ASSERT_TRUE(shortLived.Create(Host()));
+        window = shortLived.Handle();
+        log.clear();
+    }
+
+    EXPECT_FALSE(::IsWindow(window));
+    EXPECT_EQ(log, "");
+}
+
+} // namespace
+} // namespace fw
