@@ -105,8 +105,9 @@ void CDropDownDialog::FillList() {
     ::SendMessageW(list_, LVM_SETITEMSTATE, 0, reinterpret_cast<LPARAM>(&selected));
 }
 
-void CDropDownDialog::OnActivate(UINT activation, bool) {
+fw::Reply CDropDownDialog::OnActivate(UINT activation, bool) {
     if (activation == WA_INACTIVE) Close();
+    return fw::kPassOn;
 }
 
 LRESULT CDropDownDialog::OnEraseBackground(HDC dc) {
@@ -125,6 +126,9 @@ fw::Reply CDropDownDialog::OnCancel() {
     HistoryDropDownHost& host = host_;
     const HistoryAction action = pending_;
     const Box box = setup_.box;
+    // A press of the button that opened the pop-up has closed it, as with any drop-down. Called off here, the press
+    // makes no click, which would open the pop-up again.
+    if (setup_.button && ::GetCapture() == setup_.button) ::SendMessageW(setup_.button, WM_CANCELMODE, 0, 0);
     ::DestroyWindow(Handle());
     switch (action) {
     case HistoryAction::kBrowseFile:

@@ -30,8 +30,9 @@ protected:
 
 // What a drop-down shows and where.
 struct DropDownSetup {
-    HWND owner = nullptr; // the bar
-    HWND edit = nullptr;  // takes the text of a chosen history entry
+    HWND owner = nullptr;  // the bar
+    HWND edit = nullptr;   // takes the text of a chosen history entry
+    HWND button = nullptr; // opens the drop-down; may be null
     Box box = Box::kCommand;
     base::Rect region; // of the box with its buttons, in screen pixels
     std::vector<HistoryRow> rows;
@@ -68,7 +69,7 @@ private:
     void OnFinalMessage() override;
 
     bool OnInitDialog(HWND focus);
-    void OnActivate(UINT activation, bool minimised);
+    fw::Reply OnActivate(UINT activation, bool minimised);
     LRESULT OnEraseBackground(HDC dc);
     void OnOk();
     fw::Reply OnCancel();
