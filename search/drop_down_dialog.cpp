@@ -126,9 +126,6 @@ fw::Reply CDropDownDialog::OnCancel() {
     HistoryDropDownHost& host = host_;
     const HistoryAction action = pending_;
     const Box box = setup_.box;
-    // A press of the button that opened the pop-up has closed it, as with any drop-down. Called off here, the press
-    // makes no click, which would open the pop-up again.
-    if (setup_.button && ::GetCapture() == setup_.button) ::SendMessageW(setup_.button, WM_CANCELMODE, 0, 0);
     ::DestroyWindow(Handle());
     switch (action) {
     case HistoryAction::kBrowseFile:

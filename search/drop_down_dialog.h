@@ -30,9 +30,8 @@ protected:
 
 // What a drop-down shows and where.
 struct DropDownSetup {
-    HWND owner = nullptr;  // the bar
-    HWND edit = nullptr;   // takes the text of a chosen history entry
-    HWND button = nullptr; // opens the drop-down; may be null
+    HWND owner = nullptr; // the bar
+    HWND edit = nullptr;  // takes the text of a chosen history entry
     Box box = Box::kCommand;
     base::Rect region; // of the box with its buttons, in screen pixels
     std::vector<HistoryRow> rows;

@@ -24,21 +24,16 @@ public:
 };
 
 struct DropDown : WindowTest {
-    static constexpr UINT kButtonId = 2003;
     static constexpr base::Rect kRegion{100, 100, 500, 124};
 
     CEditEx edit;
     LoggingHost bar;
-    HWND button = nullptr;
     HWND popUp = nullptr;
 
     void SetUp() override {
         WindowTest::SetUp();
         ASSERT_TRUE(edit.CreateBox(Host(), 2001, {0, 0, 100, 16}, nullptr, L""));
         edit.SetText(L"typed");
-        button = ::CreateWindowExW(0, L"BUTTON", L"", WS_CHILD | WS_VISIBLE, 100, 0, 15, 22, Host(),
-                                   reinterpret_cast<HMENU>(UINT_PTR{kButtonId}), nullptr, nullptr);
-        ASSERT_NE(button, nullptr);
     }
     void TearDown() override {
         if (popUp && ::IsWindow(popUp)) ::DestroyWindow(popUp);
@@ -46,7 +41,6 @@ struct DropDown : WindowTest {
     void Open(Box box, const std::vector<std::wstring>& entries, base::Rect region = kRegion) {
         popUp = CDropDownDialog::Open(bar, {.owner = Host(),
                                             .edit = edit.Handle(),
-                                            .button = button,
                                             .box = box,
                                             .region = region,
                                             .rows = PlanHistoryRows(box, entries, LoadHistoryRowTexts())});
@@ -286,29 +280,6 @@ TEST_F(DropDown, ClosesWhenItIsNoLongerActive) {
 
     EXPECT_FALSE(::IsWindow(popUp));
     EXPECT_EQ(bar.log, "closed search;");
-}
-
-TEST_F(DropDown, CallsOffThePressOfItsButtonThatClosedIt) {
-    Open(Box::kCommand, {L"one"});
-
-    Send(popUp, WM_ACTIVATE, WA_INACTIVE);
-    SendMouse(button, WM_LBUTTONDOWN, {5, 5}, MK_LBUTTON);
-    ASSERT_EQ(::GetCapture(), button);
-    Pump();
-    SendMouse(button, WM_LBUTTONUP, {5, 5});
-
-    EXPECT_FALSE(::IsWindow(popUp));
-    EXPECT_EQ(host.CommandCount(kButtonId, BN_CLICKED), 0);
-}
-
-TEST_F(DropDown, LeavesTheNextPressOfItsButtonAlone) {
-    Open(Box::kCommand, {L"one"});
-    Send(popUp, WM_ACTIVATE, WA_INACTIVE);
-    Pump();
-
-    Click(button);
-
-    EXPECT_EQ(host.CommandCount(kButtonId, BN_CLICKED), 1);
 }
 
 TEST_F(DropDown, TellsTheBarWhenItGoesWithIt) {
