@@ -65,3 +65,39 @@ add_library(headers_compile_alone OBJECT EXCLUDE_FROM_ALL ${header_sources})
 target_link_libraries(headers_compile_alone PRIVATE korvane_options)
 target_compile_options(headers_compile_alone PRIVATE -g0 -O0)
 korvane_build_check(headers_compile_alone)
+
+# clang_tidy: the profile in .clang-tidy over every source of the program. Clang takes the cross compiler's headers.
+find_program(KORVANE_CLANG_TIDY clang-tidy REQUIRED)
+execute_process(COMMAND ${CMAKE_CXX_COMPILER} -print-file-name=include OUTPUT_VARIABLE gcc_include
+    OUTPUT_STRIP_TRAILING_WHITESPACE COMMAND_ERROR_IS_FATAL ANY)
+get_filename_component(gcc_folder ${gcc_include} DIRECTORY)
+set(cross ${CMAKE_SYSTEM_PROCESSOR}-w64-mingw32)
+set(tidy_flags --target=${CMAKE_SYSTEM_PROCESSOR}-w64-windows-gnu -std=c++20 -I${PROJECT_SOURCE_DIR}
+    -isystem ${gcc_folder}/include/c++ -isystem ${gcc_folder}/include/c++/${cross}
+    -isystem ${gcc_folder}/include/c++/backward -isystem /usr/share/mingw-w64/include)
+foreach(definition IN LISTS KORVANE_DEFINITIONS)
+    list(APPEND tidy_flags -D${definition})
+endforeach()
+file(GLOB_RECURSE tidy_sources RELATIVE ${PROJECT_SOURCE_DIR} CONFIGURE_DEPENDS
+    ${PROJECT_SOURCE_DIR}/base/*.cpp ${PROJECT_SOURCE_DIR}/framework/*.cpp ${PROJECT_SOURCE_DIR}/settings/*.cpp
+    ${PROJECT_SOURCE_DIR}/about/*.cpp ${PROJECT_SOURCE_DIR}/controls/*.cpp ${PROJECT_SOURCE_DIR}/search/*.cpp
+    ${PROJECT_SOURCE_DIR}/launch/*.cpp ${PROJECT_SOURCE_DIR}/app/*.cpp)
+foreach(file IN LISTS tidy_sources)
+    set(source ${PROJECT_SOURCE_DIR}/${file})
+    set(stamp ${CMAKE_BINARY_DIR}/clang_tidy/${file}.clean)
+    get_filename_component(folder ${stamp} DIRECTORY)
+    add_custom_command(
+        OUTPUT ${stamp}
+        COMMAND ${CMAKE_COMMAND} -E make_directory ${folder}
+        # The compiler tells which headers the source hangs on.
+        COMMAND ${CMAKE_CXX_COMPILER} -std=c++20 -I${PROJECT_SOURCE_DIR} -MM -MT ${stamp} -MF ${stamp}.d ${source}
+        COMMAND ${KORVANE_CLANG_TIDY} --quiet ${source} -- ${tidy_flags}
+        COMMAND ${CMAKE_COMMAND} -E touch ${stamp}
+        DEPENDS ${source} ${PROJECT_SOURCE_DIR}/.clang-tidy
+        DEPFILE ${stamp}.d
+        COMMENT "Reading ${file} with clang-tidy"
+        VERBATIM)
+    list(APPEND tidy_stamps ${stamp})
+endforeach()
+add_custom_target(clang_tidy DEPENDS ${tidy_stamps})
+korvane_build_check(clang_tidy)

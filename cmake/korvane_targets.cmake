@@ -3,8 +3,9 @@
 
 add_library(korvane_options INTERFACE)
 target_compile_features(korvane_options INTERFACE cxx_std_20)
-target_compile_definitions(korvane_options INTERFACE
+set(KORVANE_DEFINITIONS
     UNICODE _UNICODE WIN32_LEAN_AND_MEAN NOMINMAX STRICT _WIN32_WINNT=0x0600 WINVER=0x0600 NTDDI_VERSION=0x06000000)
+target_compile_definitions(korvane_options INTERFACE ${KORVANE_DEFINITIONS})
 target_compile_options(korvane_options INTERFACE
     -Wall -Wextra -Wpedantic -Wshadow -Werror -fno-strict-aliasing
     $<$<CONFIG:Debug>:-gdwarf-4 -D_GLIBCXX_ASSERTIONS>

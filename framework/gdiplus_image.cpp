@@ -12,8 +12,8 @@
 #pragma GCC diagnostic ignored "-Wshadow"
 #pragma GCC diagnostic ignored "-Wpedantic"
 namespace Gdiplus {
-using std::max;
-using std::min;
+using std::max; // NOLINT(misc-unused-using-decls): for the headers below
+using std::min; // NOLINT(misc-unused-using-decls)
 } // namespace Gdiplus
 #include <gdiplus.h>
 #pragma GCC diagnostic pop

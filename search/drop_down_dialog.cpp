@@ -105,8 +105,9 @@ void CDropDownDialog::FillList() {
     ::SendMessageW(list_, LVM_SETITEMSTATE, 0, reinterpret_cast<LPARAM>(&selected));
 }
 
-void CDropDownDialog::OnActivate(UINT activation, bool) {
+fw::Reply CDropDownDialog::OnActivate(UINT activation, bool) {
     if (activation == WA_INACTIVE) Close();
+    return fw::kPassOn;
 }
 
 LRESULT CDropDownDialog::OnEraseBackground(HDC dc) {

@@ -68,7 +68,7 @@ private:
     void OnFinalMessage() override;
 
     bool OnInitDialog(HWND focus);
-    void OnActivate(UINT activation, bool minimised);
+    fw::Reply OnActivate(UINT activation, bool minimised);
     LRESULT OnEraseBackground(HDC dc);
     void OnOk();
     fw::Reply OnCancel();

@@ -24,7 +24,9 @@ HistoryAction ActionOfRow(int number) {
 
 std::vector<HistoryRow> PlanHistoryRows(Box box, const std::vector<std::wstring>& entries,
                                         const HistoryRowTexts& texts) {
+    constexpr std::size_t kMostSpecialRows = 3;
     std::vector<HistoryRow> rows;
+    rows.reserve(entries.size() + kMostSpecialRows);
     for (const auto& entry : entries) rows.push_back({static_cast<int>(rows.size()), entry});
     if (box == Box::kCommand) {
         rows.push_back({kBrowseFileRow, texts.browseFile});
