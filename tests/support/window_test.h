@@ -43,6 +43,8 @@ public:
     std::vector<FromChild> sent;
     // What the host paints behind its children; nothing when it is empty.
     std::optional<COLORREF> ground;
+    // What it paints over that.
+    std::function<void(HDC)> paintOver;
 
     // How often a child sent this notification as WM_COMMAND.
     [[nodiscard]] int CommandCount(UINT id, UINT code) const {
@@ -75,6 +77,7 @@ private:
         RECT all{};
         ::GetClientRect(Handle(), &all);
         ::FillRect(dc, &all, brush.Get());
+        if (paintOver) paintOver(dc);
         return LRESULT{1};
     }
     fw::Reply OnDrawItem(const fw::Message& m) { return Record(m, static_cast<UINT>(m.wparam), 0); }
