@@ -39,7 +39,7 @@ void GiveFont(HWND control, HFONT font) {
 BarControls::BarControls(controls::BarHost& host)
     : mainMenu{host}, searchChooser{host}, controlPanel{host}, clock{host} {}
 
-bool BarControls::Create(HWND frame, HFONT barFont, const BarLayout& at, const settings::ProfileStore& settings) {
+bool BarControls::Create(HWND frame, HFONT barFont, const BarLayout& at) {
     const int size = IconSizePx();
     toolImages_ = fw::MakeImageList({IDI_RUN, IDI_SEARCH}, size);
     disabledToolImages_ = fw::MakeImageList({IDI_RUN_DISABLED, IDI_SEARCH_DISABLED}, size);
@@ -70,7 +70,6 @@ bool BarControls::Create(HWND frame, HFONT barFont, const BarLayout& at, const s
 
     GiveFont(searchChooser.Handle(), barFont);
     GiveFont(controlPanel.Handle(), barFont);
-    ReloadLaunchButtons(settings);
     return true;
 }
 

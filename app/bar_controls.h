@@ -24,9 +24,9 @@ class BarControls {
 public:
     explicit BarControls(controls::BarHost& host);
 
-    // Creates the children in their order, with the sizes of the layout; false when Windows refused one.
-    [[nodiscard]] bool Create(HWND frame, HFONT barFont, const BarLayout& layout,
-                              const settings::ProfileStore& settings);
+    // Creates the children in their order, with the places of the layout; false when Windows refused one. What depends
+    // on settings is applied afterwards.
+    [[nodiscard]] bool Create(HWND frame, HFONT barFont, const BarLayout& layout);
     void Place(const BarLayout& layout);
     void ShowClock(bool shown);
     // The exit button belongs to the docked bar; a floating one has the close box of its caption.

@@ -106,7 +106,7 @@ bool CMainFrame::CreateChildren() {
     commandIcon_ = fw::ExtractSmallIcon(kCommandIconFile, kCommandIconIndex);
     ReadColours();
     layout_ = LayoutForClient();
-    if (!menu_ || !controls_.Create(Handle(), barFont_.Get(), layout_, settings_)) {
+    if (!menu_ || !controls_.Create(Handle(), barFont_.Get(), layout_)) {
         creationError_ = ::GetLastError();
         return false;
     }

@@ -52,10 +52,15 @@ std::vector<std::wstring_view> SplitText(std::wstring_view text, wchar_t separat
 
 std::wstring ReplaceAll(std::wstring_view text, std::wstring_view what, std::wstring_view with) {
     std::wstring result;
+    if (what.empty()) return result.append(text);
+    std::size_t found = text.find(what);
+    // Enough for one occurrence, which is the usual case.
+    if (found != std::wstring_view::npos) result.reserve(text.size() + with.size());
     std::size_t at = 0;
-    for (std::size_t found = 0; !what.empty() && (found = text.find(what, at)) != std::wstring_view::npos;
-         at = found + what.size())
+    for (; found != std::wstring_view::npos; found = text.find(what, at)) {
         result.append(text.substr(at, found - at)).append(with);
+        at = found + what.size();
+    }
     return result.append(text.substr(at));
 }
 

@@ -1,7 +1,7 @@
 // Identifiers shared by the program and its resource script; #defines, because the resource compiler reads them too.
 #pragma once
 
-#include "image_ids.h"
+#include "res/image_ids.h"
 
 // clang-format off
 

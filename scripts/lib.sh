@@ -126,13 +126,11 @@ stop_display() {
 
 # install_program PRESET PREFIX: leaves the program in a prefix as its installer would.
 install_program() {
-    local build="$KORVANE_ROOT/build/$1" prefix=$2 folder file
-    folder="$prefix/drive_c/Program Files/Korvane"
-    mkdir -p "$folder"
-    cp --remove-destination "$build/app/korvane.exe" "$folder/"
-    for file in "$build/help/Korvane.chm"; do
-        [ ! -e "$file" ] || cp --remove-destination "$file" "$folder/"
-    done
-    "$KORVANE_ROOT/scripts/make_data_file.sh" "$KORVANE_ROOT/data/search_commands.ini" \
-        "$(data_folder "$prefix")/Korvane.dat"
+    local build="$KORVANE_ROOT/build/$1" prefix=$2 program data
+    program="$prefix/drive_c/Program Files/Korvane"
+    data=$(data_folder "$prefix")
+    mkdir -p "$program" "$data"
+    cp --remove-destination "$build/app/korvane.exe" "$program/"
+    [ ! -e "$build/help/Korvane.chm" ] || cp --remove-destination "$build/help/Korvane.chm" "$program/"
+    cp --remove-destination "$build/data/Korvane.dat" "$data/"
 }

@@ -61,6 +61,11 @@ use_wine_environment
 export WINEPREFIX="$desktop/prefix"
 unset WINEARCH
 (wine_server -p60)
-# The first program starts the services and the desktop, which takes half a second that no test should pay.
-wine cmd /c exit >/dev/null 2>&1
+# Windows' desktop belongs to a process that the first program starts and that ends soon after the last one. Started and
+# held by a shell that waits for input, it costs no test its time and keeps no test's output open.
+mkfifo "$desktop/input"
+exec 8<>"$desktop/input"
+wine cmd <&8 >/dev/null 2>&1 &
+exec 8>&-
+wine rundll32 user32.dll,MessageBeep >/dev/null 2>&1
 "$@"

@@ -36,7 +36,9 @@ def may_include(path, target):
     part, target_part = path.split("/")[0], target.split("/")[0]
     if target == IDENTIFIERS or target_part == "base":
         return True
-    if part in ("tests", "bench"):
+    if part == "res":
+        return target_part == "res"
+    if part in ("tests", "benchmarks"):
         # Tests of decisions link no window code; all others may use everything.
         return not is_logic(path) or is_logic(target) or target.startswith("tests/support/")
     if is_logic(path):

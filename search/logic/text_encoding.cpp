@@ -13,13 +13,14 @@ constexpr bool IsHalfWidthKatakana(unsigned char byte) {
 
 std::wstring PercentEncodeBytes(std::string_view bytes) {
     constexpr wchar_t kDigits[] = L"0123456789ABCDEF";
-    std::wstring encoded;
-    encoded.reserve(bytes.size() * 3);
+    // The percent signs are there from the beginning; only the digits are put in.
+    std::wstring encoded(bytes.size() * 3, L'%');
+    wchar_t* digit = encoded.data();
     for (const char character : bytes) {
         const auto byte = static_cast<unsigned char>(character);
-        encoded += L'%';
-        encoded += kDigits[byte >> 4];
-        encoded += kDigits[byte & 0x0F];
+        digit[1] = kDigits[byte >> 4];
+        digit[2] = kDigits[byte & 0x0F];
+        digit += 3;
     }
     return encoded;
 }

@@ -6,8 +6,7 @@ namespace korvane::settings {
 namespace {
 
 TEST(DataFolderPath, PutsABackslashBehindTheApplicationDataFolder) {
-    EXPECT_EQ(DataFolderBelow(L"C:\\Users\\利用者\\AppData\\Roaming"),
-              L"C:\\Users\\利用者\\AppData\\Roaming\\Dunmere Software\\Korvane\\");
+    EXPECT_EQ(DataFolderBelow(L"D:\\利用者\\Roaming"), L"D:\\利用者\\Roaming\\Dunmere Software\\Korvane\\");
 }
 
 TEST(DataFolderPath, PutsNoSecondBackslashBehindTheRootOfADrive) {

@@ -1,0 +1,15 @@
+#!/usr/bin/env bash
+# run_all.sh BUILD_FOLDER RUNS IDLE_SECONDS: the measurements, on the desktop that ./bench has prepared.
+set -euo pipefail
+. "$(dirname "${BASH_SOURCE[0]}")/../scripts/lib.sh"
+build=$1 runs=$2 idle=$3
+
+# As an installation would leave it; the question before the exit would keep the bar from ending.
+install_program "$(basename "$build")" "$WINEPREFIX"
+bar='C:\Program Files\Korvane\korvane.exe'
+bare=$(winepath -w "$build/benchmarks/bare_window.exe")
+
+say "Start, memory and idle processor time: median of $runs starts each, in turns"
+wine "$build/benchmarks/measure.exe" "$runs" "$idle" "$bare" BareWindow_WndClass "$bar" Korvane_WndClass
+say 'Writing a search text into an address: median of 11 runs each'
+wine "$build/benchmarks/encode_bench.exe"

@@ -1,0 +1,124 @@
+#include "tests/program/bar_picture.h"
+
+namespace korvane::test {
+namespace {
+
+class Bar : public ProgramTest {};
+
+TEST_F(Bar, HasAllItsControls) {
+    const Program program;
+    const HWND bar = program.WaitForBar();
+    ASSERT_NE(bar, nullptr);
+
+    int children = 0;
+    for (HWND child = ::GetWindow(bar, GW_CHILD); child != nullptr; child = ::GetWindow(child, GW_HWNDNEXT)) ++children;
+
+    EXPECT_EQ(children, static_cast<int>(kControls.size()));
+    for (int id : kControls) {
+        const HWND control = ::GetDlgItem(bar, id);
+        ASSERT_NE(control, nullptr) << id;
+        constexpr LONG kEveryControl = WS_CHILD | WS_CLIPSIBLINGS | WS_CLIPCHILDREN;
+        EXPECT_EQ(::GetWindowLongW(control, GWL_STYLE) & kEveryControl, kEveryControl) << id;
+    }
+}
+
+TEST_F(Bar, GivesItsControlsTheirClassesAndStyles) {
+    const Program program;
+    const HWND bar = program.WaitForBar();
+    ASSERT_NE(bar, nullptr);
+
+    EXPECT_EQ(ClassOf(Control(bar, kClock)), L"TimeBar_WndClass");
+    EXPECT_EQ(ClassOf(Control(bar, kExit)), L"ExitButton_WndClass");
+    for (ControlId box : {kCommandBox, kSearchBox}) {
+        constexpr LONG kBoxStyle = WS_TABSTOP | ES_AUTOHSCROLL;
+        EXPECT_EQ(::GetWindowLongW(Control(bar, box), GWL_STYLE) & kBoxStyle, kBoxStyle) << box;
+        EXPECT_EQ(::SendMessageW(Control(bar, box), EM_GETLINECOUNT, 0, 0), 1) << box;
+    }
+}
+
+TEST_F(Bar, NamesItsControls) {
+    const Program program;
+    const HWND bar = program.WaitForBar();
+    ASSERT_NE(bar, nullptr);
+
+    const auto text = [&](ControlId id) { return TextOf(Control(bar, id)); };
+    EXPECT_EQ(text(kMainMenu), L"Korvane メニュー");
+    EXPECT_EQ(text(kCommandHistory), L"コマンド履歴");
+    EXPECT_EQ(text(kSearchHistory), L"検索履歴");
+    EXPECT_EQ(text(kRun), L"実行");
+    EXPECT_EQ(text(kSearch), L"検索");
+    EXPECT_EQ(text(kControlPanel), L"コントロール パネル");
+    EXPECT_EQ(text(kOptions), L"オプション");
+    EXPECT_EQ(text(kHelp), L"ヘルプ 目次");
+    EXPECT_EQ(text(kExit), L"終了");
+    EXPECT_EQ(text(kCommandBox), L"");
+    EXPECT_EQ(text(kSearchBox), L"");
+}
+
+TEST_F(Bar, ShowsTheFirstSearchCommandOnTheChooser) {
+    const Program program;
+    const HWND bar = program.WaitForBar();
+    ASSERT_NE(bar, nullptr);
+
+    EXPECT_EQ(TextOf(Control(bar, kSearchChooser)), L"百科");
+}
+
+TEST_F(Bar, FollowsTheWidthOfTheFloatingWindow) {
+    const Program program;
+    const HWND bar = program.WaitForBar();
+    ASSERT_NE(bar, nullptr);
+
+    ASSERT_TRUE(SetClientWidth(bar, 1024));
+    EXPECT_EQ(PictureOf(bar), kFloating1024);
+
+    ASSERT_TRUE(SetClientWidth(bar, 1280));
+    EXPECT_EQ(PictureOf(bar), kFloating1280);
+
+    ASSERT_TRUE(SetClientWidth(bar, 1900));
+    EXPECT_EQ(PictureOf(bar), kFloating1900);
+}
+
+TEST_F(Bar, HasLowerDropButtonsFromWindows8On) {
+    PretendWindowsIs(L"win8");
+    const Program program;
+    const HWND bar = program.WaitForBar();
+    ASSERT_NE(bar, nullptr);
+
+    ASSERT_TRUE(SetClientWidth(bar, 1280));
+
+    EXPECT_EQ(PictureOf(bar), kFloatingOnWindows8At1280);
+}
+
+TEST_F(Bar, MakesRoomForTheClock) {
+    WriteSetting(kSettings, L"ShowTimeBarClock", 1);
+    const Program program;
+    const HWND bar = program.WaitForBar();
+    ASSERT_NE(bar, nullptr);
+
+    ASSERT_TRUE(SetClientWidth(bar, 1280));
+
+    EXPECT_EQ(PictureOf(bar), kFloatingWithClock1280);
+}
+
+class BoxButtons : public ProgramTest, public testing::WithParamInterface<int> {};
+
+TEST_P(BoxButtons, AreEnabledExactlyWhileTheBoxHoldsText) {
+    const Program program;
+    const HWND bar = program.WaitForBar();
+    ASSERT_NE(bar, nullptr);
+    const HWND box = ::GetDlgItem(bar, GetParam());
+    const HWND button = ::GetDlgItem(bar, GetParam() + 4);
+    EXPECT_FALSE(::IsWindowEnabled(button));
+
+    ASSERT_TRUE(TypeInto(box, L"a"));
+    EXPECT_TRUE(WaitUntil([&] { return ::IsWindowEnabled(button); }));
+
+    PressKeys({VK_BACK});
+    EXPECT_TRUE(WaitUntil([&] { return !::IsWindowEnabled(button); }));
+}
+
+INSTANTIATE_TEST_SUITE_P(Of, BoxButtons, testing::Values(int{kCommandBox}, int{kSearchBox}),
+                         [](const auto& test) { return test.param == kCommandBox ? "CommandBox" : "SearchBox"; });
+
+} // namespace
+} // namespace korvane::test
