@@ -5,11 +5,6 @@
 namespace korvane::controls {
 namespace {
 
-base::Colour MiddlePixel(HDC dc, const base::Rect& area) {
-    const COLORREF pixel = ::GetPixel(dc, area.left + area.Width() / 2, area.top + area.Height() / 2);
-    return {pixel == CLR_INVALID ? ::GetSysColor(COLOR_BTNFACE) : pixel};
-}
-
 void PaintParentBackground(HWND button, HDC dc, const base::Rect& area) {
     const HWND parent = ::GetParent(button);
     const fw::SavedDc saved{dc};
@@ -48,7 +43,7 @@ void PaintPlate(HDC dc, const fw::Theme& theme, int part, ButtonState state, con
         theme.DrawBackground(dc, part, static_cast<int>(state), area);
         return;
     }
-    const auto colour = PlateColour(MiddlePixel(dc, area), state);
+    const auto colour = PlateColour(GroundColour(dc, area), state);
     if (!colour) return;
     const fw::UniqueBrush brush{::CreateSolidBrush(fw::ToWindows(*colour))};
     FillFigure(dc, {&area, 1}, brush.Get());
@@ -61,8 +56,9 @@ void FillFigure(HDC dc, std::span<const base::Rect> figure, HBRUSH brush) {
     }
 }
 
-base::Colour ReadableColour(HDC dc, const base::Rect& area) {
-    return LooksLight(MiddlePixel(dc, area)) ? base::Colour::Rgb(0, 0, 0) : base::Colour::Rgb(255, 255, 255);
+base::Colour GroundColour(HDC dc, const base::Rect& area) {
+    const COLORREF pixel = ::GetPixel(dc, area.left + area.Width() / 2, area.top + area.Height() / 2);
+    return {pixel == CLR_INVALID ? ::GetSysColor(COLOR_BTNFACE) : pixel};
 }
 
 int SystemColourIndex(BarTextColour colour) {

@@ -43,8 +43,8 @@ void PaintPlate(HDC dc, const fw::Theme& theme, int part, ButtonState state, con
 
 void FillFigure(HDC dc, std::span<const base::Rect> figure, HBRUSH brush);
 
-// The colour that stands out from what is painted in the middle of the area.
-[[nodiscard]] base::Colour ReadableColour(HDC dc, const base::Rect& area);
+// The colour of the ground on which content will stand: what is painted in the middle of the area.
+[[nodiscard]] base::Colour GroundColour(HDC dc, const base::Rect& area);
 
 // The index of GetSysColor and GetSysColorBrush behind a text colour.
 [[nodiscard]] int SystemColourIndex(BarTextColour colour);

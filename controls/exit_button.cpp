@@ -10,7 +10,7 @@ void CExitButton::Paint(HDC dc, const base::Rect& area, const ButtonFacts& facts
 }
 
 void CExitButton::PaintCross(HDC dc, const base::Rect& area, ButtonState state) {
-    const fw::UniqueBrush brush{::CreateSolidBrush(fw::ToWindows(ReadableColour(dc, area)))};
+    const fw::UniqueBrush brush{::CreateSolidBrush(fw::ToWindows(ReadableOn(GroundColour(dc, area))))};
     const int side = fw::Scale()(8);
     const base::Rect box = Pushed(base::Centred(area, {side, side}), state, fw::Scale());
     FillFigure(dc, Cross(box, fw::Scale()), brush.Get());

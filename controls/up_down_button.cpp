@@ -3,7 +3,7 @@
 namespace korvane::controls {
 
 void CUpDownButton::SetArrowColour(base::Colour arrow) {
-    arrow_.Reset(::CreateSolidBrush(fw::ToWindows(arrow)));
+    arrow_ = arrow;
     if (Handle()) Redraw();
 }
 
@@ -11,7 +11,11 @@ void CUpDownButton::Paint(HDC dc, const base::Rect& area, const ButtonFacts& fac
     const ButtonState state = StepButtonState(facts);
     PaintGround(dc, area, state);
     const base::Rect box = base::Centred(area, SideArrowSize(fw::Scale()));
-    FillFigure(dc, SideArrow(Pushed(box, state, fw::Scale()), direction_), arrow_.Get());
+    // A plate of the visual style may have just the arrow's colour.
+    const base::Colour ground = GroundColour(dc, area);
+    const fw::UniqueBrush brush{
+        ::CreateSolidBrush(fw::ToWindows(Vanishes(arrow_, ground) ? ReadableOn(ground) : arrow_))};
+    FillFigure(dc, SideArrow(Pushed(box, state, fw::Scale()), direction_), brush.Get());
 }
 
 const wchar_t* CUpDownButton::ThemeClasses() const {

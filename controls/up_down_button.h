@@ -9,7 +9,7 @@ class CUpDownButton final : public BarButton<CUpDownButton> {
 public:
     static constexpr fw::WindowClass kClass{.name = L"UpDownButton_WndClass", .base = L"BUTTON"};
 
-    CUpDownButton(Direction direction, base::Colour arrow) : direction_{direction} { SetArrowColour(arrow); }
+    CUpDownButton(Direction direction, base::Colour arrow) : direction_{direction}, arrow_{arrow} {}
 
     void SetArrowColour(base::Colour arrow);
 
@@ -19,7 +19,7 @@ public:
 
 private:
     Direction direction_;
-    fw::UniqueBrush arrow_;
+    base::Colour arrow_;
 };
 
 } // namespace korvane::controls

@@ -27,10 +27,24 @@ enum class BarTextColour {
     return IsLightBar(bar) ? BarTextColour::kWindowText : BarTextColour::kWindow;
 }
 
-// Whether the eye takes a colour for light; a saturated yellow does, though its blue is 0. For looks of our own only.
+// How bright the eye takes a colour to be, 0 to 255, with the weights of ITU-R BT.601. For looks of our own only; the
+// bar's own rule goes by the darkest byte.
+[[nodiscard]] constexpr int Brightness(base::Colour colour) {
+    return (colour.Red() * 299 + colour.Green() * 587 + colour.Blue() * 114) / 1000;
+}
 [[nodiscard]] constexpr bool LooksLight(base::Colour colour) {
-    // The weights of ITU-R BT.601, in thousandths.
-    return colour.Red() * 299 + colour.Green() * 587 + colour.Blue() * 114 >= 140 * 1000;
+    return Brightness(colour) >= 140;
+}
+
+// Black or white, whichever stands out.
+[[nodiscard]] constexpr base::Colour ReadableOn(base::Colour ground) {
+    return LooksLight(ground) ? base::Colour::Rgb(0, 0, 0) : base::Colour::Rgb(255, 255, 255);
+}
+
+// True for an ink that can hardly be told from its ground.
+[[nodiscard]] constexpr bool Vanishes(base::Colour ink, base::Colour ground) {
+    const int difference = Brightness(ink) - Brightness(ground);
+    return difference > -32 && difference < 32;
 }
 
 } // namespace korvane::controls

@@ -26,7 +26,8 @@ std::vector<Rect> Cross(const Rect& box, const base::DpiScale& scale) {
     // A row of each stroke per line; where the strokes meet, the rows overlap and nothing is lost.
     for (int i = 0; i < box.Height(); ++i) {
         const int y = box.top + i;
-        const int along = i * (box.Width() - stroke) / (box.Height() > 1 ? box.Height() - 1 : 1);
+        const int lastRow = box.Height() > 1 ? box.Height() - 1 : 1;
+        const int along = (i * (box.Width() - stroke) + lastRow / 2) / lastRow;
         rows.push_back({box.left + along, y, box.left + along + stroke, y + 1});
         rows.push_back({box.right - along - stroke, y, box.right - along, y + 1});
     }

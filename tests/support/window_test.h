@@ -10,6 +10,7 @@
 #include <vector>
 
 #include "framework/gdi.h"
+#include "framework/handle.h"
 #include "framework/window.h"
 
 namespace korvane::test {
@@ -33,18 +34,28 @@ public:
             fw::On<WM_COMMAND>(&RecordingHost::OnCommand),        fw::On<WM_NOTIFY>(&RecordingHost::OnNotify),
             fw::On<WM_DRAWITEM>(&RecordingHost::OnDrawItem),      fw::On<WM_CTLCOLORBTN>(&RecordingHost::OnColour),
             fw::On<WM_CTLCOLOREDIT>(&RecordingHost::OnColour),    fw::On<WM_CTLCOLORSTATIC>(&RecordingHost::OnColour),
-            fw::On<WM_CTLCOLORLISTBOX>(&RecordingHost::OnColour),
+            fw::On<WM_CTLCOLORLISTBOX>(&RecordingHost::OnColour), fw::On<WM_ERASEBKGND>(&RecordingHost::OnErase),
         };
     }
 
     // Asked after the message is recorded and before it is offered to the child.
     std::function<fw::Reply(const fw::Message&)> answer;
     std::vector<FromChild> sent;
+    // What the host paints behind its children; nothing when it is empty.
+    std::optional<COLORREF> ground;
+    // What it paints over that.
+    std::function<void(HDC)> paintOver;
 
     // How often a child sent this notification as WM_COMMAND.
     [[nodiscard]] int CommandCount(UINT id, UINT code) const {
         int count = 0;
         for (const FromChild& one : sent) count += one == FromChild{WM_COMMAND, id, code} ? 1 : 0;
+        return count;
+    }
+    // How often the child was to be painted.
+    [[nodiscard]] int DrawCount(UINT id) const {
+        int count = 0;
+        for (const FromChild& one : sent) count += one.message == WM_DRAWITEM && one.id == id ? 1 : 0;
         return count;
     }
 
@@ -59,6 +70,15 @@ private:
     fw::Reply OnNotify(const fw::Message& m) {
         const auto& header = *reinterpret_cast<const NMHDR*>(m.lparam);
         return Record(m, static_cast<UINT>(header.idFrom), header.code);
+    }
+    fw::Reply OnErase(HDC dc) {
+        if (!ground) return fw::kPassOn;
+        const fw::UniqueBrush brush{::CreateSolidBrush(*ground)};
+        RECT all{};
+        ::GetClientRect(Handle(), &all);
+        ::FillRect(dc, &all, brush.Get());
+        if (paintOver) paintOver(dc);
+        return LRESULT{1};
     }
     fw::Reply OnDrawItem(const fw::Message& m) { return Record(m, static_cast<UINT>(m.wparam), 0); }
     fw::Reply OnColour(const fw::Message& m) {

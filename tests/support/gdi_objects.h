@@ -1,0 +1,36 @@
+#pragma once
+
+#include <windows.h>
+
+#include <winternl.h>
+
+#include <cstddef>
+#include <cstdint>
+
+namespace korvane::test {
+
+// How many GDI objects the process holds. Windows tells; Wine does not, but keeps its table of GDI handles where
+// Windows had it, in the process environment block.
+[[nodiscard]] inline int GdiObjectCount() {
+    if (const DWORD told = ::GetGuiResources(::GetCurrentProcess(), GR_GDIOBJECTS); told != 0)
+        return static_cast<int>(told);
+
+    struct Entry {
+        std::uint64_t object;
+        std::uint32_t owner;
+        std::uint16_t unique;
+        std::uint8_t type;
+        std::uint8_t flags;
+        std::uint64_t user;
+    };
+    constexpr std::size_t kEntries = 0x4000;
+    constexpr std::size_t kTableOffset = sizeof(void*) == 4 ? 0x94 : 0xF8;
+    const auto* const block = reinterpret_cast<const std::byte*>(::NtCurrentTeb()->ProcessEnvironmentBlock);
+    const Entry* const table = *reinterpret_cast<const Entry* const*>(block + kTableOffset);
+    int count = 0;
+    for (std::size_t i = 0; i < kEntries; ++i)
+        if (table[i].type != 0 && table[i].object != 0) ++count;
+    return count;
+}
+
+} // namespace korvane::test
