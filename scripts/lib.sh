@@ -100,6 +100,7 @@ data_folder() {
 start_display() {
     local size=$1 folder=$2 number='' deadline=$((SECONDS + 20))
     mkdir -p "$folder"
+    : >"$folder/display"
     Xvfb -displayfd 3 -screen 0 "${size}x24" -nolisten tcp -noreset 3>"$folder/display" >/dev/null 2>"$folder/xvfb.log" &
     DISPLAY_PIDS=$!
     echo "$!" >"$folder/pids"
