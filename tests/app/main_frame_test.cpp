@@ -2,11 +2,14 @@
 
 #include <gtest/gtest.h>
 
+#include <array>
+#include <climits>
 #include <memory>
 #include <string>
 #include <vector>
 
 #include "app/logic/bar_colours.h"
+#include "framework/centred_message_box.h"
 #include "framework/dpi.h"
 #include "framework/gdi.h"
 #include "settings/logic/data_folder_path.h"
@@ -436,4 +439,92 @@ TEST_F(MainFrameTest, ComesBackWhereItWasLeft) {
 
     EXPECT_EQ(now.TopLeft(), saved.TopLeft());
     EXPECT_EQ(now.Width(), saved.Width());
+}
+
+TEST_F(MainFrameTest, OpensAtItsDefaultPlaceWhenTheSavedRectangleIsDamaged) {
+    const std::array<std::byte, 15> fifteen{};
+    settings.Write(keys::SaveWindowPlacement, 1);
+    key.SetRaw(L"Settings\\WindowPlacement", L"WindowPosRect", REG_BINARY, fifteen);
+
+    EXPECT_EQ(fw::ClientRect(Bar().Handle()).Extent(), (base::Size{1024, 32}));
+}
+
+TEST_F(MainFrameTest, OpensAtItsDefaultPlaceWhenTheSavedRectangleIsAbsurd) {
+    settings.Write(keys::SaveWindowPlacement, 1);
+    settings.Write(keys::WindowPosRect, settings::EncodeRect({INT_MIN, INT_MIN, INT_MAX, INT_MAX}));
+
+    EXPECT_EQ(fw::ClientRect(Bar().Handle()).Extent(), (base::Size{1024, 32}));
+}
+
+TEST_F(MainFrameTest, ComesBackOntoTheScreenWhenItWasLeftFarOffIt) {
+    settings.Write(keys::SaveWindowPlacement, 1);
+    settings.Write(keys::WindowPosRect, settings::EncodeRect({20000, 20000, 21100, 20071}));
+
+    const base::Rect now = fw::WindowRect(Bar().Handle());
+
+    RECT onScreen = fw::ToWindows(now);
+    EXPECT_NE(::MonitorFromRect(&onScreen, MONITOR_DEFAULTTONULL), nullptr);
+    EXPECT_LT(now.top, ::GetSystemMetrics(SM_CYSCREEN));
+}
+
+TEST_F(MainFrameTest, StartsWithAnEmptyDataFileAndHasNoSearchCommands) {
+    folder.Write(L"Korvane.dat", "");
+
+    EXPECT_EQ(SearchMenu(), L"-|検索コマンドの設定(&S)...");
+    EXPECT_EQ(TextOf(Child(2007)), L"");
+}
+
+TEST_F(MainFrameTest, SearchingWithoutAnyCommandSaysThatTheFileIsDamaged) {
+    folder.Write(L"Korvane.dat", "");
+    Bar();
+    const test::MessageBoxAnswer box{IDOK};
+
+    Send(WM_COMMAND, 2006);
+
+    EXPECT_EQ(
+        box.Text(),
+        L"検索コマンドの設定ファイルが改変または削除されているため、この検索コマンドを実行することができません。");
+}
+
+TEST_F(MainFrameTest, StartsWithADataFileWhoseMarkIsBroken) {
+    folder.Write(L"Korvane.dat", "\xFE\xFF[SearchCommand_01]\r\nCommandName=a\r\nCommandLine=b<%Search%>\r\n");
+
+    EXPECT_TRUE(::IsWindow(Bar().Handle()));
+    EXPECT_TRUE(SearchMenu().ends_with(L"検索コマンドの設定(&S)..."));
+}
+
+TEST_F(MainFrameTest, StartsWithADataFileInUtf8) {
+    folder.Write(L"Korvane.dat", "[SearchCommand_01]\r\nCommandName=plain\r\nCommandLine=b<%Search%>\r\n");
+    settings.Write(keys::DefaultSearchCommand, L"1");
+
+    EXPECT_EQ(SearchMenu(), L"*plain|-|検索コマンドの設定(&S)...");
+}
+
+TEST_F(MainFrameTest, SkipsSelectedNumbersThatHaveNoCommand) {
+    settings.Write(keys::DefaultSearchCommand, L"3,,7,x,900");
+
+    EXPECT_EQ(SearchMenu(), L"*標準 3|標準 7|-|検索コマンドの設定(&S)...");
+}
+
+TEST_F(MainFrameTest, LosesNothingOfATextOf100000CharactersInABox) {
+    const std::wstring text(100'000, L'東');
+
+    ::SetWindowTextW(Child(2002), text.c_str());
+
+    EXPECT_EQ(TextOf(Child(2002)), text);
+    EXPECT_TRUE(::IsWindowEnabled(Child(2006)));
+}
+
+TEST_F(MainFrameTest, ATypedCommandThatDoesNotExistIsReportedAndNotRemembered) {
+    ::SetWindowTextW(Child(2001), L"there-is-no-such-program");
+    {
+        const test::MessageBoxAnswer box{IDOK};
+        Send(WM_COMMAND, 2005);
+        EXPECT_EQ(box.Caption(), L"Korvane");
+        EXPECT_EQ(box.Text(), fw::SystemErrorText(ERROR_FILE_NOT_FOUND));
+    }
+
+    settings.Write(keys::ConfirmExitApp, 1);
+    Send(WM_CLOSE);
+    EXPECT_EQ(settings.Read(keys::RecentCommand, 1), L"");
 }

@@ -45,6 +45,20 @@ TEST_F(Boxes, TheRunButtonRunsToo) {
     EXPECT_THAT(recorder::WaitForCommandLines(1), ElementsAre(L"rec.exe pressed"));
 }
 
+TEST_F(Boxes, TheBoxHasTheFocusAgainAfterAClickOnItsButton) {
+    const Program program{WithRecorderInThePath()};
+    const HWND bar = program.WaitForBar();
+    ASSERT_NE(bar, nullptr);
+    ASSERT_TRUE(TypeInto(Control(bar, kCommandBox), L"rec.exe "));
+    ASSERT_TRUE(WaitUntil([&] { return ::IsWindowEnabled(Control(bar, kRun)); }));
+    Click(Control(bar, kRun));
+    ASSERT_THAT(recorder::WaitForCommandLines(1), testing::SizeIs(1));
+
+    TypeText(L"more");
+
+    EXPECT_TRUE(WaitUntil([&] { return TextOf(Control(bar, kCommandBox)) == L"rec.exe more"; }));
+}
+
 TEST_F(Boxes, TypingNotepadStartsIt) {
     const Program program;
     const HWND bar = program.WaitForBar();

@@ -212,6 +212,17 @@ TEST_F(HotKeys, BelongToTheBarWhileItRuns) {
     EXPECT_TRUE(IsFree('X'));
 }
 
+TEST_F(HotKeys, OpenTheLaunchMenu) {
+    const Program program;
+    ASSERT_NE(program.WaitForBar(), nullptr);
+
+    PressKeys({VK_MENU, VK_LWIN, 'X'});
+
+    ASSERT_TRUE(WaitUntil([] { return !AllWindows(L"#32768").empty(); }));
+    PressKeys({VK_ESCAPE});
+    EXPECT_TRUE(WaitUntil([] { return AllWindows(L"#32768").empty(); }));
+}
+
 TEST_F(HotKeys, TakenByAnotherProgramAreNoObstacle) {
     ASSERT_TRUE(::RegisterHotKey(nullptr, 1, MOD_ALT | MOD_WIN, 'Z'));
     CloseWithoutQuestion();
