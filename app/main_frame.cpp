@@ -30,6 +30,9 @@ namespace {
 constexpr const wchar_t* kCommandIconFile = L"shell32.dll";
 constexpr int kCommandIconIndex = 24;
 
+// In the main menu, where separators count too.
+constexpr int kLaunchMenuPosition = 5;
+
 constexpr DWORD kFloatingStyle =
     WS_CAPTION | WS_SYSMENU | WS_THICKFRAME | WS_MINIMIZEBOX | WS_MAXIMIZEBOX | WS_CLIPSIBLINGS | WS_CLIPCHILDREN;
 constexpr DWORD kFloatingExtendedStyle = WS_EX_APPWINDOW | WS_EX_WINDOWEDGE;
@@ -308,8 +311,22 @@ HMENU CMainFrame::Popup(int position) const {
 }
 
 UINT CMainFrame::TrackPopup(int position, UINT flags, POINT at) {
+    return Track(Popup(position), flags, at);
+}
+
+UINT CMainFrame::Track(HMENU menu, UINT flags, POINT at) {
     const fw::ScopedFlag busy{inputBusy_};
-    return static_cast<UINT>(::TrackPopupMenuEx(Popup(position), flags, at.x, at.y, Handle(), nullptr));
+    return static_cast<UINT>(::TrackPopupMenuEx(menu, flags, at.x, at.y, Handle(), nullptr));
+}
+
+void CMainFrame::OnHotKey(int id) {
+    // The other hot key slides a hidden bar out, and a floating bar does not hide.
+    if (id != HOTKEY_LAUNCH_MENU || modalMessageOpen_ || inputBusy_) return;
+    POINT cursor{};
+    ::GetCursorPos(&cursor);
+    // A menu of a window that is not in the foreground would not close when the user clicks elsewhere.
+    ::SetForegroundWindow(Handle());
+    Track(::GetSubMenu(Popup(POPUP_MAIN), kLaunchMenuPosition), TPM_RIGHTBUTTON, cursor);
 }
 
 bool CMainFrame::PreTranslate(const MSG& message) {

@@ -57,6 +57,7 @@ public:
             fw::On<WM_ERASEBKGND>(&CMainFrame::OnEraseBackground),
             fw::On<WM_SETFOCUS>(&CMainFrame::OnSetFocus),
             fw::On<WM_ACTIVATE>(&CMainFrame::OnActivate),
+            fw::On<WM_HOTKEY>(&CMainFrame::OnHotKey),
             fw::On<WM_DWMCOLORIZATIONCOLORCHANGED>(&CMainFrame::OnColorizationChanged),
             fw::On<WM_COMMAND>(&CMainFrame::OnControlCommand),
             fw::OnControl<ID_COMMAND_BOX, ID_SEARCH_BOX, EN_CHANGE>(&CMainFrame::OnBoxChanged),
@@ -111,6 +112,7 @@ private:
     bool OnEraseBackground(HDC dc);
     void OnSetFocus(const fw::Message& message);
     fw::Reply OnActivate(UINT how, bool minimised);
+    void OnHotKey(int id);
     void OnColorizationChanged();
     void OnBoxChanged(UINT boxId);
     fw::Reply OnControlCommand(const fw::Message& message);
@@ -137,7 +139,11 @@ private:
     [[nodiscard]] base::Size Borders() const;
     void RememberWindowRect();
 
+    // Shows a menu at a point of the screen; gives the chosen command, or 0.
+    UINT Track(HMENU menu, UINT flags, POINT at);
+
     // Commands.
+    void ReturnFocusTo(search::Box box);
     void OpenHistory(UINT command);
     void PressHistoryButton(UINT command);
     void OpenMenuButton(UINT command);

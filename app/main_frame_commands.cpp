@@ -20,9 +20,11 @@ fw::Reply CMainFrame::OnCommand(UINT command) {
     if (!route) return fw::kPassOn;
     switch (*route) {
     case Route::kRunTyped:
+        ReturnFocusTo(Box::kCommand);
         RunTypedCommand();
         break;
     case Route::kRunSearch:
+        ReturnFocusTo(Box::kSearch);
         ExecuteSearchCommand();
         break;
     case Route::kOpenHistory:
@@ -51,6 +53,12 @@ fw::Reply CMainFrame::OnCommand(UINT command) {
         break;
     }
     return LRESULT{0};
+}
+
+// A click leaves the focus on the button, where the next thing typed would go nowhere.
+void CMainFrame::ReturnFocusTo(Box box) {
+    const controls::CToolButton& button = box == Box::kSearch ? controls_.runSearch : controls_.runTyped;
+    if (::GetFocus() == button.Handle()) ::SetFocus(BoxWindow(box).Handle());
 }
 
 void CMainFrame::RunTypedCommand() {

@@ -7,7 +7,7 @@ packages=(
     g++ clang-format clang-tidy python3
     wine wine64 wine32:i386
     xvfb xauth jwm x11-utils imagemagick
-    locales fonts-noto-cjk fonts-dejavu-core
+    locales fonts-noto-cjk fonts-horai-umefont fonts-dejavu-core
 )
 
 missing_packages() {

@@ -48,7 +48,7 @@ wine_server() {
 # folder. It is remade when Wine or the defaults change. Prefixes in use are clones of it.
 wine_template() {
     local arch=$1 folder="$KORVANE_ROOT/build/wine/template-$1" key
-    key=$({ wine --version; cat "$KORVANE_ROOT/scripts/wine_defaults.reg"; } 2>/dev/null | sha256sum | cut -c1-16)
+    key=$({ wine --version; cat "$KORVANE_ROOT/scripts/wine_defaults.reg" "$KORVANE_ROOT/scripts/rename_font.py"; } 2>/dev/null | sha256sum | cut -c1-16)
     mkdir -p "$KORVANE_ROOT/build/wine"
     (
         flock 9
@@ -58,6 +58,8 @@ wine_template() {
             use_wine_environment
             export WINEPREFIX=$folder WINEARCH=$arch
             quietly wine wineboot -i || die "cannot make a $arch prefix"
+            python3 "$KORVANE_ROOT/scripts/rename_font.py" /usr/share/fonts/truetype/horai-umefont/ume-ugo4.ttf \
+                "$folder/drive_c/windows/Fonts/narrow_kana_ui.ttf" 'Narrow Kana UI' || die 'cannot make the font'
             quietly wine regedit "$KORVANE_ROOT/scripts/wine_defaults.reg" || die 'cannot set the defaults'
             (wine_server -w)
             printf '%s\n' "$key" >"$folder/korvane.key"
@@ -98,6 +100,7 @@ data_folder() {
 start_display() {
     local size=$1 folder=$2 number='' deadline=$((SECONDS + 20))
     mkdir -p "$folder"
+    : >"$folder/display"
     Xvfb -displayfd 3 -screen 0 "${size}x24" -nolisten tcp -noreset 3>"$folder/display" >/dev/null 2>"$folder/xvfb.log" &
     DISPLAY_PIDS=$!
     echo "$!" >"$folder/pids"

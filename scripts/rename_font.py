@@ -1,8 +1,8 @@
 #!/usr/bin/env python3
 """rename_font.py SOURCE TARGET NAME
 
-Writes a copy of a TrueType font whose family and full name are NAME. A test needs a Windows on which a font of that
-name is installed; what its letters look like does not matter.
+Writes a copy of a TrueType font whose family and full name are NAME, without what would keep its letters
+from being smoothed at small sizes: bitmaps, and the table that forbids it.
 """
 
 import struct
@@ -32,7 +32,8 @@ def rename(font, name):
         tag, _, offset, length = struct.unpack(">4sLLL", font[12 + 16 * i : 28 + 16 * i])
         tables[tag] = font[offset : offset + length]
     tables[b"name"] = name_table(name)
-    tables.pop(b"DSIG", None)
+    for dropped in (b"DSIG", b"EBDT", b"EBLC", b"EBSC", b"gasp"):
+        tables.pop(dropped, None)
     # The whole file's checksum is taken with this field as zero.
     tables[b"head"] = tables[b"head"][:8] + b"\0\0\0\0" + tables[b"head"][12:]
 

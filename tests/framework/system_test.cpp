@@ -1,7 +1,9 @@
 #include <gtest/gtest.h>
 
 #include <array>
+#include <string>
 
+#include "base/format_text.h"
 #include "framework/system_library.h"
 #include "framework/theme.h"
 #include "framework/windows_version.h"
@@ -16,6 +18,29 @@ TEST(WindowsVersion, IncludesEveryEarlierOne) {
     for (std::size_t later = 1; later < kVersions.size(); ++later)
         EXPECT_TRUE(!IsWindowsAtLeast(kVersions[later]) || IsWindowsAtLeast(kVersions[later - 1])) << later;
     EXPECT_TRUE(IsWindowsAtLeast(kWindowsVista));
+}
+
+// Without the manifest every Windows after 8 would be taken for 8. tests/framework/on_every_windows.sh runs this as
+// each of the versions that a rule tells apart, and says in the environment which one it is.
+TEST(WindowsVersion, IsTheOneThatTheKernelNames) {
+    using RtlGetVersion = LONG WINAPI(OSVERSIONINFOW*);
+    auto* const kernelVersion = FunctionOf<RtlGetVersion>(::GetModuleHandleW(L"ntdll.dll"), "RtlGetVersion");
+    ASSERT_NE(kernelVersion, nullptr);
+    OSVERSIONINFOW kernel{};
+    kernel.dwOSVersionInfoSize = sizeof kernel;
+    kernelVersion(&kernel);
+
+    wchar_t expected[16]{};
+    if (::GetEnvironmentVariableW(L"KORVANE_EXPECTED_WINDOWS", expected, 16) != 0) {
+        const std::wstring found = korvane::base::FormatText(L"%u.%u", static_cast<unsigned>(kernel.dwMajorVersion),
+                                                             static_cast<unsigned>(kernel.dwMinorVersion));
+        EXPECT_EQ(found, expected);
+    }
+    for (const WindowsVersion& version : {kWindowsVista, kWindows7, kWindows8, kWindows10}) {
+        const bool reached = kernel.dwMajorVersion > version.major ||
+                             (kernel.dwMajorVersion == version.major && kernel.dwMinorVersion >= version.minor);
+        EXPECT_EQ(IsWindowsAtLeast(version), reached) << version.major << '.' << version.minor;
+    }
 }
 
 TEST(WindowsVersion, IsNotOneThatIsYetToCome) {

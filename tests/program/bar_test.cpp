@@ -63,6 +63,17 @@ TEST_F(Bar, ShowsTheFirstSearchCommandOnTheChooser) {
     EXPECT_EQ(TextOf(Control(bar, kSearchChooser)), L"百科");
 }
 
+TEST_F(Bar, PutsTheUsersOwnSearchCommandsFirst) {
+    WriteDataFile(L"UserCommand.dat", L"[SearchCommand_01]\r\nCommandName=自作\r\n"
+                                      L"CommandLine=http://own.example/<%Search%>\r\nComment=test\r\n\r\n");
+    WriteSetting(kSettings, L"UserSearchCommand", L"1,");
+    const Program program;
+    const HWND bar = program.WaitForBar();
+    ASSERT_NE(bar, nullptr);
+
+    EXPECT_EQ(TextOf(Control(bar, kSearchChooser)), L"自作");
+}
+
 TEST_F(Bar, FollowsTheWidthOfTheFloatingWindow) {
     const Program program;
     const HWND bar = program.WaitForBar();

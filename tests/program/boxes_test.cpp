@@ -1,3 +1,7 @@
+#include <windows.h>
+
+#include <commctrl.h>
+
 #include "tests/program/program_test.h"
 
 namespace korvane::test {
@@ -137,6 +141,24 @@ TEST_F(Boxes, HistoriesSurviveARestart) {
     EXPECT_EQ(ReadText(kRecentCommands, L"ListItem02"), L"rec.exe 0");
     EXPECT_EQ(ReadText(kRecentSearches, L"ListItem01"), L"検索1");
     EXPECT_EQ(ReadText(kRecentSearches, L"ListItem02"), L"検索0");
+}
+
+TEST_F(Boxes, TheHistoryButtonOffersWhatWasSavedEarlier) {
+    WriteSetting(kRecentCommands, L"ListItem01", L"newest");
+    WriteSetting(kRecentCommands, L"ListItem02", L"older");
+    const Program program;
+    const HWND bar = program.WaitForBar();
+    ASSERT_NE(bar, nullptr);
+
+    Click(Control(bar, kCommandHistory));
+
+    const HWND list = WaitUntil([&]() -> HWND {
+        for (HWND window : WindowsOf(program.Id(), L"#32770"))
+            if (const HWND child = ::FindWindowExW(window, nullptr, WC_LISTVIEWW, nullptr)) return child;
+        return nullptr;
+    });
+    ASSERT_NE(list, nullptr);
+    EXPECT_TRUE(WaitUntil([&] { return ::SendMessageW(list, LVM_GETITEMCOUNT, 0, 0) >= 2; }));
 }
 
 TEST_F(Boxes, HistoriesAreNotSavedWhenTheSettingSaysSo) {

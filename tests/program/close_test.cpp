@@ -59,6 +59,24 @@ TEST_F(Closing, AsksOverTheMiddleOfTheBarInsideTheScreen) {
     EXPECT_NEAR((owner.top + owner.bottom) / 2, (asked.top + asked.bottom) / 2, 2);
 }
 
+TEST_F(Closing, AsksInsideTheScreenWhenTheBarLeavesIt) {
+    const Program program;
+    const HWND bar = program.WaitForBar();
+    ASSERT_NE(bar, nullptr);
+    const int screenWidth = ::GetSystemMetrics(SM_CXSCREEN);
+    MoveTo(bar, screenWidth - 60, 5);
+
+    Close(bar);
+
+    const auto box = program.WaitForBox();
+    ASSERT_TRUE(box);
+    RECT asked{};
+    ::GetWindowRect(box.Handle(), &asked);
+    // Window managers may shift a window at the very edge by a pixel.
+    EXPECT_NEAR(asked.right, screenWidth, 1);
+    EXPECT_GE(asked.top, -1);
+}
+
 class RefusedClosing : public Closing, public testing::WithParamInterface<int> {};
 
 TEST_P(RefusedClosing, KeepsTheBarAndSavesNothing) {
