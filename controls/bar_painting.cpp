@@ -3,22 +3,6 @@
 #include "framework/gdi.h"
 
 namespace korvane::controls {
-namespace {
-
-void PaintParentBackground(HWND button, HDC dc, const base::Rect& area) {
-    const HWND parent = ::GetParent(button);
-    const fw::SavedDc saved{dc};
-    ::IntersectClipRect(dc, area.left, area.top, area.right, area.bottom);
-    // The parent paints in its own coordinates; the origin moves so that they fall on the button's.
-    POINT offset{};
-    ::MapWindowPoints(button, parent, &offset, 1);
-    ::OffsetViewportOrgEx(dc, -offset.x, -offset.y, nullptr);
-    ::SendMessageW(parent, WM_ERASEBKGND, reinterpret_cast<WPARAM>(dc), 0);
-    ::SendMessageW(parent, WM_PRINTCLIENT, reinterpret_cast<WPARAM>(dc), PRF_CLIENT);
-}
-
-} // namespace
-
 PaintBuffer::PaintBuffer(HDC target, const base::Rect& area)
     : target_{target}, area_{area}, dc_{::CreateCompatibleDC(target)},
       bitmap_{dc_ ? ::CreateCompatibleBitmap(target, area.Width(), area.Height()) : nullptr} {
@@ -33,9 +17,21 @@ PaintBuffer::~PaintBuffer() {
     ::SelectObject(dc_.Get(), previous_);
 }
 
+void PaintBehindUnthemed(HWND button, HDC dc, const base::Rect& area) {
+    const HWND parent = ::GetParent(button);
+    const fw::SavedDc saved{dc};
+    ::IntersectClipRect(dc, area.left, area.top, area.right, area.bottom);
+    // The parent paints in its own coordinates; the origin moves so that they fall on the button's.
+    POINT offset{};
+    ::MapWindowPoints(button, parent, &offset, 1);
+    ::OffsetViewportOrgEx(dc, -offset.x, -offset.y, nullptr);
+    ::SendMessageW(parent, WM_ERASEBKGND, reinterpret_cast<WPARAM>(dc), 0);
+    ::SendMessageW(parent, WM_PRINTCLIENT, reinterpret_cast<WPARAM>(dc), PRF_CLIENT);
+}
+
 void PaintBehind(HWND button, HDC dc, const base::Rect& area) {
     if (fw::ThemesAvailable() && fw::DrawThemedParentBackground(button, dc, area)) return;
-    PaintParentBackground(button, dc, area);
+    PaintBehindUnthemed(button, dc, area);
 }
 
 void PaintPlate(HDC dc, const fw::Theme& theme, int part, ButtonState state, const base::Rect& area) {

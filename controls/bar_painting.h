@@ -36,6 +36,8 @@ private:
 
 // Lets the parent paint what is behind the button, with or without visual styles.
 void PaintBehind(HWND button, HDC dc, const base::Rect& area);
+// The same by our own means, for a Windows without the library of the visual styles.
+void PaintBehindUnthemed(HWND button, HDC dc, const base::Rect& area);
 
 // The button's plate over what is behind it: the visual style's, or where it has none a flat one of our own, so that
 // hover and press are seen on every bar.

@@ -57,6 +57,22 @@ TEST_F(ButtonPainting, ShowsWhatTheParentPaintsAtTheButtonsPlace) {
     EXPECT_EQ(canvas.Pixel(20, 10), kWhite);
 }
 
+TEST_F(ButtonPainting, ShowsTheSameBehindItWithoutTheLibraryOfTheVisualStyles) {
+    CToolButton button;
+    Put(button, {200, 0, 236, 32});
+    TakeThemeAway(button);
+    host.paintOver = [](HDC dc) {
+        const RECT field{220, 0, 800, 600};
+        ::FillRect(dc, &field, static_cast<HBRUSH>(::GetStockObject(WHITE_BRUSH)));
+    };
+    const Canvas canvas{{36, 32}};
+
+    PaintBehindUnthemed(button.Handle(), canvas.Dc(), {0, 0, 36, 32});
+
+    EXPECT_EQ(canvas.Pixels(), Paint(button).Pixels());
+    EXPECT_EQ(canvas.Pixel(20, 10), kWhite);
+}
+
 TEST_F(ButtonPainting, HasAPlateOfItsOwnWhereTheVisualStyleHasNone) {
     CToolButton button;
     Put(button, {0, 0, 36, 32});
@@ -130,9 +146,8 @@ TEST_F(MainMenuButton, IsRedrawnAtOnceWhenTheBarChangesColour) {
     EXPECT_EQ(host.DrawCount(ID_MAIN_MENU), 1);
 }
 
-TEST_F(MainMenuButton, WithoutItsPicturesIsAnEmptyButton) {
+TEST_F(MainMenuButton, FallsBackOnItsOrdinaryPictures) {
     CKorvaneButton bare{bar};
-    // Pictures that are not there, for a resolution that has none to fall back on but the ordinary ones.
     bare.SetImages(9998, 9999, 96);
     Put(bare, {200, 0, 320, 32});
     TakeThemeAway(bare);

@@ -191,7 +191,11 @@ TEST_F(MenuButton, OpensNoSecondMenuWhileOneIsOpen) {
 }
 
 TEST_F(MenuButton, IsShutAndNotOpenedAgainByThePressThatClosedItsMenu) {
-    bar.whileOpen = [&] { ::PostMessageW(button.Handle(), WM_LBUTTONDOWN, MK_LBUTTON, 0); };
+    bool pressed = false;
+    bar.whileOpen = [&] {
+        if (!pressed) ::PostMessageW(button.Handle(), WM_LBUTTONDOWN, MK_LBUTTON, 0);
+        pressed = true;
+    };
 
     Press();
     Pump();
