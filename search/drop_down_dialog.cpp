@@ -16,6 +16,9 @@ namespace {
 // Pixels. The frame that shows around the list.
 constexpr int kFramePx = 1;
 
+// Pixels. Rows as high as those of a menu are easier to hit than the font alone would make them.
+constexpr int kRowHeightPx = 18;
+
 // Characters; list views show no more of an item.
 constexpr std::size_t kLongestShown = 259;
 
@@ -63,8 +66,8 @@ void CDropDownDialog::MoveToBox() {
 }
 
 bool CDropDownDialog::CreateList() {
-    constexpr DWORD kStyle =
-        WS_CHILD | WS_VISIBLE | WS_TABSTOP | LVS_REPORT | LVS_NOCOLUMNHEADER | LVS_SINGLESEL | LVS_SHOWSELALWAYS;
+    constexpr DWORD kStyle = WS_CHILD | WS_VISIBLE | WS_TABSTOP | LVS_REPORT | LVS_NOCOLUMNHEADER | LVS_SINGLESEL |
+                             LVS_SHOWSELALWAYS | LVS_SHAREIMAGELISTS;
     // With tracking the row under the mouse becomes the selected one, as in the list of a combo box.
     constexpr DWORD kExtendedStyle = LVS_EX_FULLROWSELECT | LVS_EX_DOUBLEBUFFER | LVS_EX_TRACKSELECT;
     constexpr LPARAM kHoverMilliseconds = 1;
@@ -77,6 +80,9 @@ bool CDropDownDialog::CreateList() {
     ::SendMessageW(list_, LVM_SETEXTENDEDLISTVIEWSTYLE, kExtendedStyle, static_cast<LPARAM>(kExtendedStyle));
     ::SendMessageW(list_, LVM_SETHOVERTIME, 0, kHoverMilliseconds);
     ::SendMessageW(list_, WM_SETFONT, static_cast<WPARAM>(::SendMessageW(Handle(), WM_GETFONT, 0, 0)), FALSE);
+    // A list view has no row height of its own; it is that of its small images, and these have no width to be seen.
+    rowHeight_.Reset(::ImageList_Create(1, fw::Scale()(kRowHeightPx), ILC_COLOR, 0, 0));
+    ::SendMessageW(list_, LVM_SETIMAGELIST, LVSIL_SMALL, reinterpret_cast<LPARAM>(rowHeight_.Get()));
     fw::SetWindowTheme(list_, L"EXPLORER");
     return true;
 }

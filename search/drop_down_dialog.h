@@ -8,6 +8,7 @@
 
 #include "base/geometry.h"
 #include "framework/dialog.h"
+#include "framework/image_list.h"
 #include "res/ids.h"
 #include "search/logic/history_rows.h"
 
@@ -86,6 +87,7 @@ private:
     HistoryDropDownHost& host_;
     DropDownSetup setup_;
     HWND list_ = nullptr; // a child window
+    fw::UniqueImageList rowHeight_;
     // What is left to be done when the pop-up is gone.
     HistoryAction pending_ = HistoryAction::kNone;
     bool closing_ = false;

@@ -7,6 +7,8 @@
 #include <cstddef>
 #include <cstdint>
 
+#include "framework/system_library.h"
+
 namespace korvane::test {
 
 // How many GDI objects the process holds. Windows tells; Wine does not, but keeps its table of GDI handles where
@@ -25,7 +27,11 @@ namespace korvane::test {
     };
     constexpr std::size_t kEntries = 0x4000;
     constexpr std::size_t kTableOffset = sizeof(void*) == 4 ? 0x94 : 0xF8;
-    const auto* const block = reinterpret_cast<const std::byte*>(::NtCurrentTeb()->ProcessEnvironmentBlock);
+    using Query = NTSTATUS WINAPI(HANDLE, PROCESSINFOCLASS, void*, ULONG, ULONG*);
+    auto* const query = fw::FunctionOf<Query>(::GetModuleHandleW(L"ntdll.dll"), "NtQueryInformationProcess");
+    PROCESS_BASIC_INFORMATION process{};
+    query(::GetCurrentProcess(), ProcessBasicInformation, &process, sizeof process, nullptr);
+    const auto* const block = reinterpret_cast<const std::byte*>(process.PebBaseAddress);
     const Entry* const table = *reinterpret_cast<const Entry* const*>(block + kTableOffset);
     int count = 0;
     for (std::size_t i = 0; i < kEntries; ++i)
