@@ -73,6 +73,7 @@ int CMainFrame::OnCreate(const CREATESTRUCTW&) {
     RestorePlacement();
     ApplySettings();
     filter_ = loop_.Add(*this);
+    created_ = true;
     return 0;
 }
 
@@ -220,7 +221,8 @@ void CMainFrame::OnDestroy() {
     filter_.Reset();
     showBarKey_.Unregister();
     launchMenuKey_.Unregister();
-    ::PostQuitMessage(0);
+    // A frame that was never there does not end the loop: the message would close the box that reports the failure.
+    if (created_) ::PostQuitMessage(0);
 }
 
 fw::Reply CMainFrame::OnSize(UINT kind, SIZE) {

@@ -207,6 +207,7 @@ private:
     // Cleared only when the bar has to close itself.
     bool askBeforeExit_ = true;
     DWORD creationError_ = ERROR_SUCCESS;
+    bool created_ = false;
 };
 
 } // namespace korvane::app

@@ -63,6 +63,8 @@ void CMainFrame::ReturnFocusTo(Box box) {
 
 void CMainFrame::RunTypedCommand() {
     const std::wstring text = controls_.commandBox.Text();
+    // Its button is disabled then, but its key is not; the shell would take an empty name for the current folder.
+    if (text.empty()) return;
     const search::RunOutcome outcome = search::RunTypedCommand(text, starter_);
     if (outcome.Started()) {
         histories_.Of(Box::kCommand).Add(text);

@@ -32,6 +32,13 @@ protected:
         for (int number = 1; number <= 26; ++number) AddCommand(L"Korvane.dat", number, L"標準");
     }
 
+    // A closed bar ends the message loop; the next test has one of its own.
+    ~MainFrameTest() override {
+        MSG quit{};
+        while (::PeekMessageW(&quit, nullptr, WM_QUIT, WM_QUIT, PM_REMOVE)) {
+        }
+    }
+
     void AddCommand(std::wstring_view file, int number, std::wstring_view kind) {
         settings::IniFileStore commands{folder.Path() + L"\\" + std::wstring{file}};
         const std::wstring section = settings::section::SearchCommand(number);
@@ -409,6 +416,28 @@ TEST_F(MainFrameTest, IsNotCreatedWithoutTheDataFile) {
     EXPECT_EQ(::GetLastError(), DWORD{ERROR_FILE_NOT_FOUND});
 }
 
+TEST_F(MainFrameTest, AFailedCreationDoesNotEndTheMessageLoop) {
+    test::TempFolder empty;
+    CMainFrame frame{loop, help, {key.Path(), [&] { return settings::DataFolder{empty.Path() + L"\\", 0}; }}};
+    const test::MessageBoxAnswer box{IDOK};
+    ASSERT_FALSE(frame.CreateFrame());
+
+    // Windows sends this after a refused creation.
+    (void)frame.Dispatch({nullptr, WM_DESTROY, 0, 0});
+
+    MSG quit{};
+    EXPECT_FALSE(::PeekMessageW(&quit, nullptr, WM_QUIT, WM_QUIT, PM_REMOVE));
+}
+
+TEST_F(MainFrameTest, TheEndOfTheBarEndsTheMessageLoop) {
+    settings.Write(keys::ConfirmExitApp, 1);
+
+    Send(WM_CLOSE);
+
+    MSG quit{};
+    EXPECT_TRUE(::PeekMessageW(&quit, nullptr, WM_QUIT, WM_QUIT, PM_REMOVE));
+}
+
 TEST_F(MainFrameTest, EnterInABoxWithTextPostsItsCommandAndAnEmptyBoxTakesItInSilence) {
     const auto press = [&](int id) {
         loop.Process({.hwnd = Child(id), .message = WM_KEYDOWN, .wParam = VK_RETURN, .lParam = 1, .time = 0, .pt = {}});
@@ -513,6 +542,15 @@ TEST_F(MainFrameTest, LosesNothingOfATextOf100000CharactersInABox) {
 
     EXPECT_EQ(TextOf(Child(2002)), text);
     EXPECT_TRUE(::IsWindowEnabled(Child(2006)));
+}
+
+TEST_F(MainFrameTest, RunsNothingFromAnEmptyCommandBox) {
+    Bar();
+    const test::MessageBoxAnswer box{IDOK};
+
+    Send(WM_COMMAND, 2005);
+
+    EXPECT_EQ(box.Count(), 0);
 }
 
 TEST_F(MainFrameTest, ATypedCommandThatDoesNotExistIsReportedAndNotRemembered) {
