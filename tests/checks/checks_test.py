@@ -118,6 +118,10 @@ class NoMachinePaths(CheckCase):
         self.tree(a_txt=f"/usr/src/googletest ./build/x86-debug {relative} C:\\Program Files\\Korvane\n")
         self.assertEqual(self.found(), [])
 
+    def test_the_checkout_is_not_found_inside_a_longer_path(self):
+        self.tree(a_txt=f"/usr{self.root}/x\n")
+        self.assertEqual(self.found(), [])
+
     def test_private_folders_are_found(self):
         # Put together here, so that this file itself stays clean.
         self.tree(a_txt="/" + "home/someone/x\n", b_txt="C:" + "\\Users\\someone\n", c_txt=f"{self.root}/x\n")
