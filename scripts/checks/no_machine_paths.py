@@ -13,6 +13,8 @@ SKIPPED = {"build", ".git", ".cache", "__pycache__"}
 
 
 def findings(root):
+    # Not in the middle of a longer path: a checkout in /src has nothing to do with /usr/src.
+    checkout = re.compile(r"(?<![\w./-])" + re.escape(f"{root}/"))
     for path in sorted(root.rglob("*")):
         relative = path.relative_to(root)
         if relative.parts[0] in SKIPPED or "__pycache__" in relative.parts or not path.is_file() or path.is_symlink():
@@ -22,7 +24,7 @@ def findings(root):
         except UnicodeDecodeError:
             continue
         for number, line in enumerate(text.splitlines(), 1):
-            if PRIVATE.search(line) or f"{root}/" in line:
+            if PRIVATE.search(line) or checkout.search(line):
                 yield f"{relative}:{number}: names a place of one machine: {line.strip()}"
 
 

@@ -114,12 +114,16 @@ class NoMachinePaths(CheckCase):
         return list(no_machine_paths.findings(self.root))
 
     def test_relative_and_system_places_are_fine(self):
-        relative = "tests" + "/home/x res" + "/root/y"
+        # Put together here, so that this file itself stays clean.
+        relative = "tests/{}/x res/{}/y".format("home", "root")
         self.tree(a_txt=f"/usr/src/googletest ./build/x86-debug {relative} C:\\Program Files\\Korvane\n")
         self.assertEqual(self.found(), [])
 
+    def test_the_checkout_is_not_found_inside_a_longer_path(self):
+        self.tree(a_txt=f"/usr{self.root}/x\n")
+        self.assertEqual(self.found(), [])
+
     def test_private_folders_are_found(self):
-        # Put together here, so that this file itself stays clean.
         self.tree(a_txt="/" + "home/someone/x\n", b_txt="C:" + "\\Users\\someone\n", c_txt=f"{self.root}/x\n")
         self.assertEqual(len(self.found()), 3)
 
