@@ -56,6 +56,8 @@ bool CMainFrame::CreateFrame() {
 void CMainFrame::ShowFirst(int showCommand) {
     ::ShowWindow(Handle(), showCommand);
     ::UpdateWindow(Handle());
+    // The children too, before the loop takes up what could wait until the bar is to be seen.
+    ::RedrawWindow(Handle(), nullptr, nullptr, RDW_UPDATENOW | RDW_ALLCHILDREN);
 }
 
 int CMainFrame::OnCreate(const CREATESTRUCTW&) {
@@ -182,6 +184,7 @@ void CMainFrame::LayOut() {
     // Sizes also arrive while the frame is being created.
     if (!controls_.exit.Handle()) return;
     layout_ = LayoutForClient();
+    laidOutWidth_ = fw::ClientRect(Handle()).Width();
     controls_.Place(layout_);
     RememberWindowRect();
     RedrawAll();
@@ -225,8 +228,9 @@ void CMainFrame::OnDestroy() {
     if (created_) ::PostQuitMessage(0);
 }
 
-fw::Reply CMainFrame::OnSize(UINT kind, SIZE) {
-    if (kind != SIZE_MINIMIZED) LayOut();
+fw::Reply CMainFrame::OnSize(UINT kind, SIZE client) {
+    // The first showing and the return from the task bar report a size that is none the newer.
+    if (kind != SIZE_MINIMIZED && client.cx != laidOutWidth_) LayOut();
     return fw::kPassOn;
 }
 

@@ -179,6 +179,7 @@ private:
 
     BarControls controls_;
     BarLayout layout_;
+    LONG laidOutWidth_ = -1; // of the client area that the layout is for
     fw::UniqueFont barFont_;
     fw::UniqueBrush barBrush_;
     fw::UniqueIcon commandIcon_;

@@ -3,8 +3,8 @@
 // each: the median and worst time from process start until its window is painted, the median of its private memory, and
 // the processor time that it takes while nobody touches it.
 //
-// "Painted" is when the window of that class is visible and its thread waits for input for the first time: pending
-// painting comes before waiting, so all of the window and its children has been drawn by then.
+// "Painted" is when the window of that class is visible, its thread answers a message, which it does once it has drawn
+// what it draws before its message loop, and neither the window nor any of its children has anything left to draw.
 #include <windows.h>
 
 #include <algorithm>
@@ -63,6 +63,22 @@ double CpuMs(HANDLE process) {
     return static_cast<double>(ticks(kernel) + ticks(user)) / 10'000;
 }
 
+BOOL CALLBACK StopAtUnpainted(HWND child, LPARAM unpainted) {
+    if (!::IsWindowVisible(child) || !::GetUpdateRect(child, nullptr, FALSE)) return TRUE;
+    *reinterpret_cast<bool*>(unpainted) = true;
+    return FALSE;
+}
+
+bool Painted(HWND window) {
+    DWORD_PTR answer = 0;
+    if (!window || !::IsWindowVisible(window) ||
+        !::SendMessageTimeoutW(window, WM_NULL, 0, 0, SMTO_NORMAL, kDeadlineMs, &answer))
+        return false;
+    bool unpainted = ::GetUpdateRect(window, nullptr, FALSE) != FALSE;
+    ::EnumChildWindows(window, &StopAtUnpainted, reinterpret_cast<LPARAM>(&unpainted));
+    return !unpainted;
+}
+
 // One started program; ended with the object.
 class Run {
 public:
@@ -78,17 +94,13 @@ public:
         }
         process_.Reset(started.hProcess);
         ::CloseHandle(started.hThread);
-        ::WaitForInputIdle(process_.Get(), kDeadlineMs);
-        HWND window = nullptr;
-        while (!(window = ::FindWindowW(program.windowClass.c_str(), nullptr)) || !::IsWindowVisible(window)) {
+        while (!Painted(::FindWindowW(program.windowClass.c_str(), nullptr))) {
             if ((Seconds() - before) * 1000 > kDeadlineMs) {
                 std::fprintf(stderr, "%ls shows no window\n", program.path.c_str());
                 std::exit(1);
             }
             ::Sleep(1);
         }
-        DWORD_PTR answer = 0;
-        ::SendMessageTimeoutW(window, WM_NULL, 0, 0, SMTO_NORMAL, kDeadlineMs, &answer);
         program.paintedMs.push_back((Seconds() - before) * 1000);
         program.privateMegabytes.push_back(PrivateMegabytes(process_.Get()));
     }

@@ -25,11 +25,19 @@ private:
     HWND child_ = nullptr;
 };
 
+// The private message with which a window asks itself for its tooltip.
+inline constexpr UINT kMakeTipMessage = WM_APP + 101;
+
 // Mix-in of a child window T that is named by a tooltip: the text set, or else the window text at its creation.
 template <class T>
 class CToolTipHelper {
 public:
-    static constexpr auto Messages() { return fw::MessageMap{fw::On<WM_DESTROY>(&CToolTipHelper::OnDestroy)}; }
+    static constexpr auto Messages() {
+        return fw::MessageMap{
+            fw::On<kMakeTipMessage>(&CToolTipHelper::OnMakeTip),
+            fw::On<WM_DESTROY>(&CToolTipHelper::OnDestroy),
+        };
+    }
 
     // May be called before the window is created.
     void SetTip(const std::wstring& text) {
@@ -43,20 +51,31 @@ protected:
     // Taken away for as long as something else is to be seen in its place. The window goes rather than being turned
     // off: a tooltip whose delay has begun would come all the same.
     void AllowTip(bool allowed) {
-        const HWND window = static_cast<T&>(*this).Handle();
+        allowed_ = allowed;
         if (!allowed) {
             tip_.Destroy();
-        } else if (window && !tip_.Handle()) {
-            tip_.Create(window, tipText_);
+        } else {
+            MakeTip();
         }
     }
 
+    // Asks for the tooltip, which comes with the first message that the loop takes. It costs as much time as the window
+    // itself, and nobody can point at a bar that is not drawn yet.
     void CreateTip(const wchar_t* windowText) {
         if (tipText_.empty() && windowText) tipText_ = windowText;
-        tip_.Create(static_cast<T&>(*this).Handle(), tipText_);
+        ::PostMessageW(static_cast<T&>(*this).Handle(), kMakeTipMessage, 0, 0);
     }
 
 private:
+    void MakeTip() {
+        const HWND window = static_cast<T&>(*this).Handle();
+        if (window && !tip_.Handle()) tip_.Create(window, tipText_);
+    }
+
+    void OnMakeTip(const fw::Message&) {
+        if (allowed_) MakeTip();
+    }
+
     fw::Reply OnDestroy(const fw::Message&) {
         tip_.Destroy();
         return fw::kPassOn;
@@ -64,6 +83,7 @@ private:
 
     std::wstring tipText_;
     ToolTip tip_;
+    bool allowed_ = true;
 };
 
 } // namespace korvane::controls

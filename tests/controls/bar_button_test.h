@@ -6,6 +6,7 @@
 
 #include "base/colour.h"
 #include "controls/logic/button_state.h"
+#include "controls/tool_tip_helper.h"
 #include "framework/gdi.h"
 #include "framework/gdiplus_image.h"
 #include "framework/handle.h"
@@ -38,6 +39,10 @@ protected:
                                    .style = WS_CHILD | WS_VISIBLE | WS_CLIPSIBLINGS | WS_CLIPCHILDREN,
                                    .parent = Host(),
                                    .id = id}));
+        // The tooltip comes with the first message that the loop takes.
+        MSG makeTip{};
+        ASSERT_TRUE(::PeekMessageW(&makeTip, button.Handle(), kMakeTipMessage, kMakeTipMessage, PM_REMOVE));
+        ::DispatchMessageW(&makeTip);
     }
 
     // The system's own themes are none of the test's business where a look of ours is looked at.
