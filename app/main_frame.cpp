@@ -294,7 +294,7 @@ void CMainFrame::OnColorizationChanged() {
 
 void CMainFrame::OnBoxChanged(UINT boxId) {
     const bool empty = ::GetWindowTextLengthW(::GetDlgItem(Handle(), static_cast<int>(boxId))) == 0;
-    const HWND button = ::GetDlgItem(Handle(), static_cast<int>(boxId + kRunButtonOffset));
+    const HWND button = ::GetDlgItem(Handle(), static_cast<int>(boxId) + search::kRunButtonOffset);
     ::EnableWindow(button, !empty);
     ::RedrawWindow(button, nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_UPDATENOW);
 }

@@ -2,6 +2,8 @@
 
 #include <string>
 
+#include "framework/window_text.h"
+
 namespace korvane::controls {
 namespace {
 
@@ -24,8 +26,7 @@ void CAppImageBtn::SetImages(HIMAGELIST images) {
 bool CAppImageBtn::Replace(HWND dialog, int id) {
     const HWND placeholder = ::GetDlgItem(dialog, id);
     if (!placeholder) return false;
-    std::wstring text(static_cast<std::size_t>(::GetWindowTextLengthW(placeholder)), L'\0');
-    ::GetWindowTextW(placeholder, text.data(), static_cast<int>(text.size()) + 1);
+    const std::wstring text = fw::WindowText(placeholder);
     RECT r{};
     ::GetWindowRect(placeholder, &r);
     ::MapWindowPoints(nullptr, dialog, reinterpret_cast<POINT*>(&r), 2);

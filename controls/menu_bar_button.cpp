@@ -4,6 +4,7 @@
 
 #include "controls/logic/menu_placement.h"
 #include "framework/gdi.h"
+#include "framework/monitors.h"
 
 namespace korvane::controls {
 namespace {
@@ -20,14 +21,6 @@ int SeparatorsIn(HMENU menu, int items) {
         if (::GetMenuItemInfoW(menu, static_cast<UINT>(i), TRUE, &item) && (item.fType & MFT_SEPARATOR)) ++separators;
     }
     return separators;
-}
-
-// The bottom of the screen that holds the most of the window, without what docked bars take.
-int WorkAreaBottom(HWND window) {
-    MONITORINFO monitor{};
-    monitor.cbSize = sizeof monitor;
-    ::GetMonitorInfoW(::MonitorFromWindow(window, MONITOR_DEFAULTTONEAREST), &monitor);
-    return monitor.rcWork.bottom;
 }
 
 // A press on the button that closed its menu would open it again: it was meant to close it.
@@ -51,7 +44,7 @@ UINT TrackMenuAt(HWND button, BarHost& host, int popup) {
     const int height =
         EstimatedMenuHeight(items, SeparatorsIn(menu, items), ::GetSystemMetrics(SM_CYMENU), fw::Scale());
     const MenuPlacement placement =
-        PlaceMenu(fw::WindowRect(button), height, WorkAreaBottom(::GetAncestor(button, GA_ROOT)));
+        PlaceMenu(fw::WindowRect(button), height, fw::WorkAreaOf(::GetAncestor(button, GA_ROOT)).bottom);
     const UINT command = host.TrackPopup(popup, placement.flags, {placement.at.x, placement.at.y});
     if (::IsWindow(button)) ForgetPresses(button);
     return command;

@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "framework/gdi.h"
+#include "framework/window_text.h"
 #include "res/ids.h"
 
 namespace korvane::controls {
@@ -58,8 +59,7 @@ void CTextDropButton::Paint(HDC dc, const base::Rect& area, const ButtonFacts& f
 }
 
 void CTextDropButton::PaintText(HDC dc, const base::Rect& where) const {
-    std::wstring text(static_cast<std::size_t>(::GetWindowTextLengthW(Handle())), L'\0');
-    ::GetWindowTextW(Handle(), text.data(), static_cast<int>(text.size()) + 1);
+    const std::wstring text = fw::WindowText(Handle());
     const auto own = reinterpret_cast<HFONT>(::SendMessageW(Handle(), WM_GETFONT, 0, 0));
     const fw::SelectedObject font{dc, own ? own : host_.BarFont()};
     ::SetBkMode(dc, TRANSPARENT);

@@ -8,6 +8,7 @@
 #include <string_view>
 
 #include "framework/system_library.h"
+#include "framework/window_text.h"
 #include "search/logic/typed_command.h"
 
 namespace korvane::search {
@@ -80,10 +81,7 @@ void CEditEx::AddToolTip(const std::wstring& tip) {
 }
 
 std::wstring CEditEx::Text() const {
-    std::wstring text(static_cast<std::size_t>(::GetWindowTextLengthW(Handle())), L'\0');
-    const int length = ::GetWindowTextW(Handle(), text.data(), static_cast<int>(text.size()) + 1);
-    text.resize(static_cast<std::size_t>(length));
-    return text;
+    return fw::WindowText(Handle());
 }
 
 void CEditEx::SetText(const std::wstring& text) {

@@ -76,8 +76,4 @@ static_assert(Ascending(kCommandRanges));
 inline constexpr unsigned kHistoryKeyOffset = ID_OPEN_COMMAND_HISTORY - ID_COMMAND_HISTORY;
 static_assert(kHistoryKeyOffset == 8 && ID_OPEN_SEARCH_HISTORY - ID_SEARCH_HISTORY == kHistoryKeyOffset);
 
-// A box's run button, and so the command that Enter in it gives, is the box's identifier plus this.
-inline constexpr unsigned kRunButtonOffset = ID_RUN_TYPED - ID_COMMAND_BOX;
-static_assert(kRunButtonOffset == 4 && ID_RUN_SEARCH - ID_SEARCH_BOX == kRunButtonOffset);
-
 } // namespace korvane::app

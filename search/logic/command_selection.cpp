@@ -7,9 +7,7 @@ namespace {
 
 constexpr unsigned kReturnKey = 13;
 
-// From a box to the button that runs it.
-constexpr int kRunOffset = 4;
-static_assert(ID_COMMAND_BOX + kRunOffset == ID_RUN_TYPED && ID_SEARCH_BOX + kRunOffset == ID_RUN_SEARCH);
+static_assert(ID_COMMAND_BOX + kRunButtonOffset == ID_RUN_TYPED && ID_SEARCH_BOX + kRunButtonOffset == ID_RUN_SEARCH);
 
 } // namespace
 
@@ -17,7 +15,7 @@ KeyDecision CommandForKey(const BoxKey& key) {
     const bool inBox = key.controlId == ID_COMMAND_BOX || key.controlId == ID_SEARCH_BOX;
     if (key.virtualKey != kReturnKey || !inBox || !key.enterEnabled || key.composing) return {};
     if (key.boxEmpty) return {KeyAnswer::kIgnore, 0};
-    return {KeyAnswer::kRun, key.controlId + kRunOffset};
+    return {KeyAnswer::kRun, key.controlId + kRunButtonOffset};
 }
 
 } // namespace korvane::search

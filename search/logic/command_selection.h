@@ -2,6 +2,9 @@
 
 namespace korvane::search {
 
+// A box's run button, and so the command that Enter in it gives, is the box's identifier plus this.
+inline constexpr int kRunButtonOffset = 4;
+
 // A key pressed in one of the bar's boxes.
 struct BoxKey {
     unsigned virtualKey = 0;

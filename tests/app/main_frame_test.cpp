@@ -12,6 +12,7 @@
 #include "framework/centred_message_box.h"
 #include "framework/dpi.h"
 #include "framework/gdi.h"
+#include "framework/window_text.h"
 #include "settings/logic/data_folder_path.h"
 #include "settings/logic/setting_keys.h"
 #include "settings/logic/window_placement.h"
@@ -60,11 +61,6 @@ protected:
     HWND Child(int id) { return ::GetDlgItem(Bar().Handle(), id); }
     LRESULT Send(UINT message, WPARAM wparam = 0, LPARAM lparam = 0) {
         return ::SendMessageW(Bar().Handle(), message, wparam, lparam);
-    }
-    static std::wstring TextOf(HWND window) {
-        std::wstring text(static_cast<std::size_t>(::GetWindowTextLengthW(window)), L'\0');
-        ::GetWindowTextW(window, text.data(), static_cast<int>(text.size()) + 1);
-        return text;
     }
     void SetClientWidth(int width) {
         const base::Rect window = fw::WindowRect(Bar().Handle());
@@ -252,13 +248,13 @@ TEST_F(MainFrameTest, ItsUpperBorderMovesItAndItsLowerBorderDoesNothing) {
 TEST_F(MainFrameTest, OffersTheTenDefaultSearchCommandsInTwoBlocks) {
     EXPECT_EQ(SearchMenu(), L"*標準 1|標準 5|標準 6|標準 8|標準 10|-|標準 12|標準 14|標準 19|標準 22|標準 26|-|"
                             L"検索コマンドの設定(&S)...");
-    EXPECT_EQ(TextOf(Child(2007)), L"標準 1");
+    EXPECT_EQ(fw::WindowText(Child(2007)), L"標準 1");
 }
 
 TEST_F(MainFrameTest, ShowsTheChosenSearchCommandOnTheChooser) {
     Send(WM_COMMAND, 5012);
 
-    EXPECT_EQ(TextOf(Child(2007)), L"標準 12");
+    EXPECT_EQ(fw::WindowText(Child(2007)), L"標準 12");
     EXPECT_EQ(SearchMenu(), L"標準 1|標準 5|標準 6|標準 8|標準 10|-|*標準 12|標準 14|標準 19|標準 22|標準 26|-|"
                             L"検索コマンドの設定(&S)...");
 }
@@ -268,7 +264,7 @@ TEST_F(MainFrameTest, TheFirstCommandIsCurrentAfterEveryRebuildWhateverWasBefore
 
     Bar().BuildSearchCommandMenu();
 
-    EXPECT_EQ(TextOf(Child(2007)), L"標準 1");
+    EXPECT_EQ(fw::WindowText(Child(2007)), L"標準 1");
 }
 
 TEST_F(MainFrameTest, PutsTheUsersOwnCommandsFirstUnlessToldOtherwise) {
@@ -288,7 +284,7 @@ TEST_F(MainFrameTest, KeepsTheSettingsItemWhenNoCommandIsSelected) {
     settings.WriteText(L"Settings", L"DefaultSearchCommand", L"");
 
     EXPECT_EQ(SearchMenu(), L"-|検索コマンドの設定(&S)...");
-    EXPECT_EQ(TextOf(Child(2007)), L"");
+    EXPECT_EQ(fw::WindowText(Child(2007)), L"");
 }
 
 TEST_F(MainFrameTest, SaysWhenASearchCommandHasLostItsLine) {
@@ -336,14 +332,14 @@ TEST_F(MainFrameTest, AsksBeforeAHistoryIsClearedAndEmptiesTheBoxOnYes) {
         Bar().ClearHistory(search::Box::kSearch);
         EXPECT_EQ(box.Text(), L"[検索ボックス] の履歴をすべて消去します。よろしいですか？");
     }
-    EXPECT_EQ(TextOf(Child(2002)), L"次の検索");
+    EXPECT_EQ(fw::WindowText(Child(2002)), L"次の検索");
 
     {
         const test::MessageBoxAnswer box{IDYES};
         Bar().ClearHistory(search::Box::kSearch);
     }
 
-    EXPECT_EQ(TextOf(Child(2002)), L"");
+    EXPECT_EQ(fw::WindowText(Child(2002)), L"");
     settings.Write(keys::ConfirmExitApp, 1);
     Send(WM_CLOSE);
     EXPECT_EQ(settings.Read(keys::RecentSearch, 1), L"");
@@ -500,7 +496,7 @@ TEST_F(MainFrameTest, StartsWithAnEmptyDataFileAndHasNoSearchCommands) {
     folder.Write(L"Korvane.dat", "");
 
     EXPECT_EQ(SearchMenu(), L"-|検索コマンドの設定(&S)...");
-    EXPECT_EQ(TextOf(Child(2007)), L"");
+    EXPECT_EQ(fw::WindowText(Child(2007)), L"");
 }
 
 TEST_F(MainFrameTest, SearchingWithoutAnyCommandSaysThatTheFileIsDamaged) {
@@ -540,7 +536,7 @@ TEST_F(MainFrameTest, LosesNothingOfATextOf100000CharactersInABox) {
 
     ::SetWindowTextW(Child(2002), text.c_str());
 
-    EXPECT_EQ(TextOf(Child(2002)), text);
+    EXPECT_EQ(fw::WindowText(Child(2002)), text);
     EXPECT_TRUE(::IsWindowEnabled(Child(2006)));
 }
 

@@ -4,6 +4,8 @@
 
 #include <string>
 
+#include "framework/window_text.h"
+
 namespace korvane::test {
 
 // Answers every message box of this thread with one button, as soon as it is active, and remembers what the last one
@@ -28,19 +30,13 @@ public:
     [[nodiscard]] int Count() const { return count_; }
 
 private:
-    static std::wstring TextOf(HWND window) {
-        std::wstring text(static_cast<std::size_t>(::GetWindowTextLengthW(window)), L'\0');
-        ::GetWindowTextW(window, text.data(), static_cast<int>(text.size()) + 1);
-        return text;
-    }
-
     static LRESULT CALLBACK OnMessage(int code, WPARAM wparam, LPARAM lparam) {
         const auto& message = *reinterpret_cast<const CWPRETSTRUCT*>(lparam);
         // A message box is a dialog whose text has the identifier 0xFFFF.
         constexpr int kTextId = 0xFFFF;
         if (code == HC_ACTION && message.message == WM_INITDIALOG && ::GetDlgItem(message.hwnd, kTextId)) {
-            current_->caption_ = TextOf(message.hwnd);
-            current_->text_ = TextOf(::GetDlgItem(message.hwnd, kTextId));
+            current_->caption_ = fw::WindowText(message.hwnd);
+            current_->text_ = fw::WindowText(::GetDlgItem(message.hwnd, kTextId));
             ++current_->count_;
             ::PostMessageW(message.hwnd, WM_COMMAND, static_cast<WPARAM>(current_->button_), 0);
         }
