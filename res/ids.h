@@ -108,6 +108,8 @@
 #define IDS_EMEDITOR_KEY            110
 #define IDS_HIDEMARU_KEY            111
 #define IDS_NO_SEARCH_COMMAND       114
+#define IDS_AUTO_HIDE_TAKEN         125
+#define IDS_AUTO_HIDE_FAILED        126
 #define IDS_PRODUCT                 128
 #define IDS_CLOCK_TIME              130
 #define IDS_CLOCK_SECONDS           131
@@ -140,6 +142,17 @@
 #define IDS_HELP                    221
 #define IDS_EXIT                    222
 #define IDS_SEARCH_SETTINGS         223
+#define IDS_SCREEN_BECAME_NARROW    224
+#define IDS_SESSION_QUESTION        225
+#define IDS_SIGN_OUT_VERB           226
+#define IDS_LOG_OFF_VERB            227
+#define IDS_SHUT_DOWN_VERB          228
+#define IDS_RESTART_VERB            229
+#define IDS_LOG_OFF_ITEM            230
+#define IDS_SECURITY_CENTER_ITEM    231
+#define IDS_NO_TASK                 232
+#define IDS_LAUNCH_SETTINGS         233
+#define IDS_COMMAND_PROMPT_PARAMETERS 234
 #define IDS_CONFIRM_EXIT            57665
 
 // clang-format on
