@@ -30,8 +30,11 @@ struct Slide {
     double lengthMs = 0;
 };
 
-// Watches the bar from the moment at which it begins to move until it has the height that it is to end with.
-Slide Watch(HWND bar, bool (*arrived)(const RECT&)) {
+// Watches the bar from the moment at which it begins to move until it has arrived. Until it begins it is caused to,
+// again and again: the display server may still be carrying out an earlier move of the cursor.
+Slide Watch(HWND bar, void (*cause)(HWND), bool (*arrived)(const RECT&)) {
+    constexpr double kCauseAgain = 0.2; // seconds
+    double causeAt = 0;
     Slide slide;
     RECT last = PlaceOf(bar);
     const double deadline = Seconds() + kDeadlineMs / 1000.0;
@@ -43,6 +46,10 @@ Slide Watch(HWND bar, bool (*arrived)(const RECT&)) {
         if (now > deadline) {
             std::fprintf(stderr, "the bar does not slide: it is at %ld-%ld\n", place.top, place.bottom);
             std::exit(1);
+        }
+        if (begun == 0 && now > causeAt) {
+            cause(bar);
+            causeAt = now + kCauseAgain;
         }
         if (::EqualRect(&place, &last)) continue;
         if (begun == 0) {
@@ -57,6 +64,14 @@ Slide Watch(HWND bar, bool (*arrived)(const RECT&)) {
         slide.lengthMs = (now - begun) * 1000;
         return slide;
     }
+}
+
+void PressShowKey(HWND bar) {
+    ::PostMessageW(bar, WM_HOTKEY, HOTKEY_SHOW_BAR, 0);
+}
+// The key leaves the cursor on the bar.
+void TakeCursorAway(HWND) {
+    ::SetCursorPos(400, 400);
 }
 
 bool WholeBar(const RECT& place) {
@@ -101,13 +116,8 @@ int wmain(int count, wchar_t** arguments) {
     std::vector<Slide> out;
     std::vector<Slide> in;
     for (int i = 0; i < slides; ++i) {
-        // The key that shows the bar leaves the cursor on it; it is taken away so that the bar hides again.
-        ::PostMessageW(bar, WM_HOTKEY, HOTKEY_SHOW_BAR, 0);
-        out.push_back(Watch(bar, &WholeBar));
-        POINT cursor{0, kBarHeightPx};
-        while (cursor.y >= kBarHeightPx) ::GetCursorPos(&cursor);
-        ::SetCursorPos(400, 400);
-        in.push_back(Watch(bar, &Strip));
+        out.push_back(Watch(bar, &PressShowKey, &WholeBar));
+        in.push_back(Watch(bar, &TakeCursorAway, &Strip));
     }
     Print("slide out", out);
     Print("slide in", in);
