@@ -15,3 +15,11 @@ say 'Writing a search text into an address: median of 11 runs each'
 wine "$build/benchmarks/encode_bench.exe"
 say 'Building and showing the longest menus: 50 openings each, in turns'
 wine "$build/benchmarks/menu_bench.exe"
+
+say 'Docked and hiding: 20 slides each way, then idle'
+key='HKCU\Software\Dunmere Software\Korvane\Settings'
+set_number() { wine reg add "$1" /v "$2" /t REG_DWORD /d "$3" /f >/dev/null; }
+set_number "$key\WindowPlacement" SaveWindowPlacement 1
+set_number "$key\WindowPlacement" DefaultDesktopBarMode 1
+set_number "$key" DesktopBarAutoHide 1
+wine "$build/benchmarks/dock_bench.exe" 20 "$idle" "$bar"
