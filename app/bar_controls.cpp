@@ -119,6 +119,14 @@ void BarControls::ShowExit(bool shown) {
     ::ShowWindow(exit.Handle(), shown ? SW_SHOWNA : SW_HIDE);
 }
 
+void BarControls::ShowWithBar(bool shown, bool clockToo) {
+    const int how = shown ? SW_SHOWNA : SW_HIDE;
+    for (const HWND control : {mainMenu.Handle(), controlPanel.Handle(), launchButtons[0].Handle(),
+                               launchButtons[1].Handle(), launchButtons[2].Handle(), options.Handle(), help.Handle()})
+        ::ShowWindow(control, how);
+    if (clockToo) ::ShowWindow(clock.Handle(), how);
+}
+
 void BarControls::SetColour(base::Colour barColour) {
     mainMenu.SetBarColour(barColour);
     controlPanel.SetBarColour(barColour);

@@ -29,8 +29,9 @@ public:
     [[nodiscard]] bool Create(HWND frame, HFONT barFont, const BarLayout& layout);
     void Place(const BarLayout& layout);
     void ShowClock(bool shown);
-    // The exit button belongs to the docked bar; a floating one has the close box of its caption.
     void ShowExit(bool shown);
+    // Shows or hides the controls that would show in a hidden bar's strip.
+    void ShowWithBar(bool shown, bool clockToo);
     void SetColour(base::Colour barColour);
     // Reads the three launch buttons' entries again and shows their names and icons.
     void ReloadLaunchButtons(const settings::ProfileStore& settings);

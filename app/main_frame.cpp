@@ -33,10 +33,6 @@ constexpr int kCommandIconIndex = 24;
 // In the main menu, where separators count too.
 constexpr int kLaunchMenuPosition = 5;
 
-constexpr DWORD kFloatingStyle =
-    WS_CAPTION | WS_SYSMENU | WS_THICKFRAME | WS_MINIMIZEBOX | WS_MAXIMIZEBOX | WS_CLIPSIBLINGS | WS_CLIPCHILDREN;
-constexpr DWORD kFloatingExtendedStyle = WS_EX_APPWINDOW | WS_EX_WINDOWEDGE;
-
 } // namespace
 
 CMainFrame::CMainFrame(fw::MessageLoop& loop, const HelpSession& help, FramePlaces places)
@@ -45,16 +41,9 @@ CMainFrame::CMainFrame(fw::MessageLoop& loop, const HelpSession& help, FramePlac
 
 CMainFrame::~CMainFrame() = default;
 
-bool CMainFrame::CreateFrame() {
-    const std::wstring title = fw::LoadText(IDS_PRODUCT);
-    if (Create({.text = title.c_str(), .style = kFloatingStyle, .extendedStyle = kFloatingExtendedStyle})) return true;
-    // What failed inside the creation says more than what Windows leaves behind after it.
-    if (creationError_ != ERROR_SUCCESS) ::SetLastError(creationError_);
-    return false;
-}
-
 void CMainFrame::ShowFirst(int showCommand) {
-    ::ShowWindow(Handle(), showCommand);
+    // A docked bar is neither minimised nor maximised, whatever its shortcut asks for.
+    ::ShowWindow(Handle(), docking_.Docked() ? SW_SHOW : showCommand);
     ::UpdateWindow(Handle());
     // The children too, before the loop takes up what could wait until the bar is to be seen.
     ::RedrawWindow(Handle(), nullptr, nullptr, RDW_UPDATENOW | RDW_ALLCHILDREN);
@@ -72,7 +61,7 @@ int CMainFrame::OnCreate(const CREATESTRUCTW&) {
     if (!CreateChildren()) return -1;
     histories_.RestoreIfWanted(settings_);
     systemColourAtStart_ = systemColour_;
-    RestorePlacement();
+    BeginDocking();
     ApplySettings();
     filter_ = loop_.Add(*this);
     created_ = true;
@@ -120,33 +109,31 @@ bool CMainFrame::CreateChildren() {
     return true;
 }
 
-void CMainFrame::RestorePlacement() {
+void CMainFrame::BeginDocking() {
     const auto workAreas = fw::WorkAreas();
     const base::Rect primary = workAreas.empty() ? base::Rect{} : workAreas.front();
-    windowRect_ = DefaultFloatingRect(primary, Borders(), fw::Scale());
+    base::Rect floating = DefaultFloatingRect(primary, Borders(), fw::Scale());
+    bool docked = false;
     if (settings_.Read(keys::SaveWindowPlacement) == 1) {
-        desktopBarMode_ = settings_.Read(keys::DefaultDesktopBarMode) == 1;
+        docked = settings_.Read(keys::DefaultDesktopBarMode) == 1;
         if (const auto bytes = settings_.Read(keys::WindowPosRect))
             if (const auto saved = settings::DecodeRect(*bytes))
-                windowRect_ = settings::ReachableRect(*saved, workAreas, fw::Scale()).value_or(windowRect_);
+                floating = settings::ReachableRect(*saved, workAreas, fw::Scale()).value_or(floating);
     }
-    windowRect_ = WithBarHeight(windowRect_, Borders(), fw::Scale());
-    const base::Rect place = windowRect_;
-    ::SetWindowPos(Handle(), nullptr, place.left, place.top, place.Width(), place.Height(),
-                   SWP_NOZORDER | SWP_NOACTIVATE);
+    shell_.SetWindow(Handle());
+    docking_.Begin({.windows8OrLater = fw::IsWindowsAtLeast(fw::kWindows8), .scale = fw::Scale()}, docked,
+                   WithBarHeight(floating, Borders(), fw::Scale()));
 }
 
 void CMainFrame::ApplySettings() {
     ReadColours();
     ApplyColour();
-    ApplyTopmost();
     controls_.clock.SetFormat(controls::ClockFormatOf(settings_.Read(keys::TimeBarClockFormat)));
     clockShown_ = settings_.Read(keys::ShowTimeBarClock) > 0;
     controls_.ShowClock(clockShown_);
-    controls_.ShowExit(false);
     controls_.ReloadLaunchButtons(settings_);
     BuildSearchCommandMenu();
-    LayOut();
+    docking_.ApplyMode(created_ ? ShowAtEnd::kYes : ShowAtEnd::kNo);
 }
 
 void CMainFrame::ReadColours() {
@@ -162,19 +149,13 @@ void CMainFrame::ApplyColour() {
     RedrawAll();
 }
 
-void CMainFrame::ApplyTopmost() {
-    const bool topmost = settings_.Read(keys::TopMostWindow) > 0;
-    ::SetWindowPos(Handle(), topmost ? HWND_TOPMOST : HWND_NOTOPMOST, 0, 0, 0, 0,
-                   SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
-}
-
 void CMainFrame::RedrawAll() const {
     ::RedrawWindow(Handle(), nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_ALLCHILDREN | RDW_UPDATENOW);
 }
 
 BarLayout CMainFrame::LayoutForClient() const {
     return LayOutBar(fw::ClientRect(Handle()).Width(), {.clockShown = clockShown_,
-                                                        .windowMode = true,
+                                                        .windowMode = !docking_.Docked(),
                                                         .windows7OrLater = fw::IsWindowsAtLeast(fw::kWindows7),
                                                         .windows8OrLater = fw::IsWindowsAtLeast(fw::kWindows8),
                                                         .scale = fw::Scale()});
@@ -190,31 +171,28 @@ void CMainFrame::LayOut() {
     RedrawAll();
 }
 
-base::Size CMainFrame::Borders() const {
-    RECT frame{};
-    ::AdjustWindowRectEx(&frame, kFloatingStyle, FALSE, kFloatingExtendedStyle);
-    return fw::FromWindows(frame).Extent();
-}
-
 void CMainFrame::RememberWindowRect() {
-    if (!::IsIconic(Handle()) && !::IsZoomed(Handle())) windowRect_ = fw::WindowRect(Handle());
+    if (!::IsIconic(Handle()) && !::IsZoomed(Handle())) docking_.OnFloatingRect(fw::WindowRect(Handle()));
 }
 
 fw::Reply CMainFrame::OnClose() {
     if (askBeforeExit_ && settings_.Read(keys::ConfirmExitApp) == 0 && Ask(fw::LoadText(IDS_CONFIRM_EXIT)) != IDYES)
         return LRESULT{0};
     SaveState();
+    docking_.Leave();
     return fw::kPassOn;
 }
 
 void CMainFrame::OnEndSession(bool ending) {
-    if (ending) SaveState();
+    if (!ending) return;
+    SaveState();
+    docking_.Leave();
 }
 
 void CMainFrame::SaveState() {
     if (settings_.Read(keys::SaveWindowPlacement) == 1) {
-        settings_.Write(keys::DefaultDesktopBarMode, desktopBarMode_ ? 1 : 0);
-        settings_.Write(keys::WindowPosRect, settings::EncodeRect(windowRect_));
+        settings_.Write(keys::DefaultDesktopBarMode, docking_.Docked() ? 1 : 0);
+        settings_.Write(keys::WindowPosRect, settings::EncodeRect(docking_.FloatingRect()));
     }
     histories_.SaveIfWanted(settings_);
 }
@@ -224,6 +202,8 @@ void CMainFrame::OnDestroy() {
     filter_.Reset();
     showBarKey_.Unregister();
     launchMenuKey_.Unregister();
+    // A creation that fails late has no closing before it.
+    docking_.Leave();
     // A frame that was never there does not end the loop: the message would close the box that reports the failure.
     if (created_) ::PostQuitMessage(0);
 }
@@ -240,6 +220,7 @@ fw::Reply CMainFrame::OnMove(const fw::Message&) {
 }
 
 void CMainFrame::OnGetMinMaxInfo(MINMAXINFO& info) {
+    if (docking_.Docked()) return;
     const base::Size borders = Borders();
     const LONG height = fw::Scale()(kBarHeightPx) + borders.height;
     info.ptMinTrackSize.x = std::min<LONG>(NarrowestBarPx(fw::Scale()) + borders.width, info.ptMaxSize.x);
@@ -247,6 +228,7 @@ void CMainFrame::OnGetMinMaxInfo(MINMAXINFO& info) {
 }
 
 LRESULT CMainFrame::OnHitTest(const fw::Message& message) {
+    docking_.OnHitTest();
     // The floating bar can be widened but never made taller: the upper border moves it, the lower one does nothing.
     switch (const LRESULT place = Default(message)) {
     case HTTOP:
@@ -284,6 +266,7 @@ fw::Reply CMainFrame::OnActivate(UINT how, bool) {
     const HWND focus = ::GetFocus();
     const bool inBox = focus == controls_.commandBox.Handle() || focus == controls_.searchBox.Handle();
     if (how == WA_INACTIVE && inBox) lastFocus_ = focus;
+    docking_.OnActivated(how != WA_INACTIVE);
     return fw::kPassOn;
 }
 
@@ -326,7 +309,7 @@ UINT CMainFrame::Track(HMENU menu, UINT flags, POINT at) {
 }
 
 void CMainFrame::OnHotKey(int id) {
-    // The other hot key slides a hidden bar out, and a floating bar does not hide.
+    if (id == HOTKEY_SHOW_BAR) ShowBarUnderCursor();
     if (id != HOTKEY_LAUNCH_MENU || modalMessageOpen_ || inputBusy_) return;
     POINT cursor{};
     ::GetCursorPos(&cursor);

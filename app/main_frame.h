@@ -2,6 +2,7 @@
 
 #include <windows.h>
 
+#include <array>
 #include <functional>
 #include <optional>
 #include <string>
@@ -9,6 +10,9 @@
 #include "app/bar_controls.h"
 #include "app/help_session.h"
 #include "app/logic/bar_layout.h"
+#include "app/logic/docked_window.h"
+#include "app/logic/docking.h"
+#include "app/win_shell.h"
 #include "base/colour.h"
 #include "base/geometry.h"
 #include "controls/bar_host.h"
@@ -16,6 +20,7 @@
 #include "framework/handle.h"
 #include "framework/hot_key.h"
 #include "framework/message_loop.h"
+#include "framework/timer.h"
 #include "framework/window.h"
 #include "res/ids.h"
 #include "search/drop_down_dialog.h"
@@ -40,6 +45,7 @@ struct FramePlaces {
 class CMainFrame final : public fw::Window<CMainFrame>,
                          public controls::BarHost,
                          public search::HistoryDropDownHost,
+                         private DockedWindow,
                          private fw::MessageFilter {
 public:
     static constexpr fw::WindowClass kClass{.name = L"Korvane_WndClass"};
@@ -52,6 +58,10 @@ public:
             fw::On<WM_ENDSESSION>(&CMainFrame::OnEndSession),
             fw::On<WM_SIZE>(&CMainFrame::OnSize),
             fw::On<WM_MOVE>(&CMainFrame::OnMove),
+            fw::On<WM_WINDOWPOSCHANGED>(&CMainFrame::OnPlaceChanged),
+            fw::On<WM_DISPLAYCHANGE>(&CMainFrame::OnDisplayChange),
+            fw::On<kShellMessage>(&CMainFrame::OnShellEvent),
+            fw::On<WM_TIMER>(&CMainFrame::OnTimer),
             fw::On<WM_GETMINMAXINFO>(&CMainFrame::OnGetMinMaxInfo),
             fw::On<WM_NCHITTEST>(&CMainFrame::OnHitTest),
             fw::On<WM_ERASEBKGND>(&CMainFrame::OnEraseBackground),
@@ -75,6 +85,9 @@ public:
     // and the thread's last error says the rest.
     [[nodiscard]] bool CreateFrame();
     void ShowFirst(int showCommand);
+
+    // The messages of the map, and what the shell broadcasts when it has started again, whose number Windows gives out.
+    fw::Reply Dispatch(const fw::Message& message) override;
 
     // Reads every general setting again and applies it. Called at creation and whenever the options were confirmed.
     void ApplySettings();
@@ -100,6 +113,28 @@ public:
 private:
     bool PreTranslate(const MSG& message) override;
 
+    // DockedWindow
+    [[nodiscard]] base::Rect WorkArea() const override;
+    [[nodiscard]] base::Rect Place() const override;
+    [[nodiscard]] bool Visible() const override;
+    void Hide() override;
+    void Show() override;
+    void BecomeDocked() override;
+    void BecomeFloating(bool topmost) override;
+    void MoveTo(const base::Rect& place, ZOrder order) override;
+    void SetZOrder(ZOrder order) override;
+    void SlideTo(int top, bool coming) override;
+    void ShowControls(bool shown) override;
+    [[nodiscard]] bool CursorInside() const override;
+    [[nodiscard]] bool InUse() const override;
+    [[nodiscard]] WindowId WindowAbove() const override;
+    bool PutBehind(WindowId window) override;
+    void StartTimer(DockTimer timer, std::chrono::milliseconds period) override;
+    void StopTimer(DockTimer timer) override;
+    [[nodiscard]] std::chrono::milliseconds Now() const override;
+    void Wait(std::chrono::milliseconds time) override;
+    void DockingChanged() override;
+
     // Handlers.
     int OnCreate(const CREATESTRUCTW& creation);
     void OnDestroy();
@@ -107,6 +142,10 @@ private:
     void OnEndSession(bool ending);
     fw::Reply OnSize(UINT kind, SIZE client);
     fw::Reply OnMove(const fw::Message& message);
+    fw::Reply OnPlaceChanged(const fw::Message& message);
+    void OnDisplayChange(UINT bitsPerPixel, SIZE screen);
+    void OnShellEvent(const fw::Message& message);
+    fw::Reply OnTimer(UINT_PTR id);
     void OnGetMinMaxInfo(MINMAXINFO& info);
     LRESULT OnHitTest(const fw::Message& message);
     bool OnEraseBackground(HDC dc);
@@ -125,12 +164,11 @@ private:
     bool CommandFileIsThere();
     void RegisterHotKeys();
     bool CreateChildren();
-    void RestorePlacement();
+    void BeginDocking();
 
     // Applying settings.
     void ReadColours();
     void ApplyColour();
-    void ApplyTopmost();
 
     void SaveState();
     [[nodiscard]] BarLayout LayoutForClient() const;
@@ -143,6 +181,9 @@ private:
     UINT Track(HMENU menu, UINT flags, POINT at);
 
     // Commands.
+    void ShowBarUnderCursor();
+    void ToggleAutoHide();
+    void ToggleTopmost();
     void ReturnFocusTo(search::Box box);
     void OpenHistory(UINT command);
     void PressHistoryButton(UINT command);
@@ -193,10 +234,13 @@ private:
     search::WinProcessStarter starter_;
     search::SearchTextEncoder encoder_;
 
-    // The docked state that was saved; kept as it is until the bar can dock.
-    bool desktopBarMode_ = false;
+    WinShell shell_;
+    Docking docking_{shell_, *this, settings_};
+    std::array<fw::Timer, 4> dockTimers_; // by identifier, from 1
+    bool wasActive_ = false;              // before it was hidden
+    bool narrowReported_ = false;
+
     bool clockShown_ = false;
-    base::Rect windowRect_;
     HWND lastFocus_ = nullptr;
 
     // While one of these is set the bar is in use and must not hide.

@@ -48,6 +48,15 @@ fw::Reply CMainFrame::OnCommand(UINT command) {
     case Route::kChooseSearch:
         ChooseSearchCommand(command);
         break;
+    case Route::kToggleMode:
+        docking_.ToggleMode();
+        break;
+    case Route::kToggleTopmost:
+        ToggleTopmost();
+        break;
+    case Route::kToggleAutoHide:
+        ToggleAutoHide();
+        break;
     case Route::kExit:
         ::PostMessageW(Handle(), WM_CLOSE, 0, 0);
         break;
@@ -110,12 +119,14 @@ void CMainFrame::OnDropDownClosed(Box box) {
 }
 
 void CMainFrame::PressHistoryButton(UINT command) {
+    docking_.ShowOnDemand();
     const UINT opens = command - kHistoryKeyOffset;
     HistoryButton(opens == ID_SEARCH_HISTORY ? Box::kSearch : Box::kCommand).ShowPressed();
     ::PostMessageW(Handle(), WM_COMMAND, opens, 0);
 }
 
 void CMainFrame::OpenMenuButton(UINT command) {
+    docking_.ShowOnDemand();
     const HWND button = ::GetDlgItem(Handle(), static_cast<int>(MenuButtonOf(command)));
     ::PostMessageW(button, WM_LBUTTONDOWN, MK_LBUTTON, 0);
 }

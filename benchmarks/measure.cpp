@@ -9,15 +9,16 @@
 
 #include <algorithm>
 #include <cstdio>
-#include <cstdlib>
 #include <string>
 #include <vector>
 
-#include "framework/handle.h"
+#include "benchmarks/program_run.h"
 
 namespace {
 
-constexpr DWORD kDeadlineMs = 20'000;
+using korvane::bench::CpuMs;
+using korvane::bench::Median;
+using korvane::bench::Run;
 
 struct Program {
     std::wstring path;
@@ -26,20 +27,6 @@ struct Program {
     std::vector<double> privateMegabytes;
     double idleCpuMs = 0;
 };
-
-double Seconds() {
-    LARGE_INTEGER now{};
-    LARGE_INTEGER frequency{};
-    ::QueryPerformanceCounter(&now);
-    ::QueryPerformanceFrequency(&frequency);
-    return static_cast<double>(now.QuadPart) / static_cast<double>(frequency.QuadPart);
-}
-
-double Median(std::vector<double> values) {
-    std::sort(values.begin(), values.end());
-    const std::size_t middle = values.size() / 2;
-    return values.size() % 2 != 0 ? values[middle] : (values[middle - 1] + values[middle]) / 2;
-}
 
 double PrivateMegabytes(HANDLE process) {
     SIZE_T bytes = 0;
@@ -52,69 +39,6 @@ double PrivateMegabytes(HANDLE process) {
     }
     return static_cast<double>(bytes) / (1024 * 1024);
 }
-
-double CpuMs(HANDLE process) {
-    FILETIME created{};
-    FILETIME exited{};
-    FILETIME kernel{};
-    FILETIME user{};
-    ::GetProcessTimes(process, &created, &exited, &kernel, &user);
-    const auto ticks = [](const FILETIME& t) { return (ULONGLONG{t.dwHighDateTime} << 32) | t.dwLowDateTime; };
-    return static_cast<double>(ticks(kernel) + ticks(user)) / 10'000;
-}
-
-BOOL CALLBACK StopAtUnpainted(HWND child, LPARAM unpainted) {
-    if (!::IsWindowVisible(child) || !::GetUpdateRect(child, nullptr, FALSE)) return TRUE;
-    *reinterpret_cast<bool*>(unpainted) = true;
-    return FALSE;
-}
-
-bool Painted(HWND window) {
-    DWORD_PTR answer = 0;
-    if (!window || !::IsWindowVisible(window) ||
-        !::SendMessageTimeoutW(window, WM_NULL, 0, 0, SMTO_NORMAL, kDeadlineMs, &answer))
-        return false;
-    bool unpainted = ::GetUpdateRect(window, nullptr, FALSE) != FALSE;
-    ::EnumChildWindows(window, &StopAtUnpainted, reinterpret_cast<LPARAM>(&unpainted));
-    return !unpainted;
-}
-
-// One started program; ended with the object.
-class Run {
-public:
-    explicit Run(Program& program) {
-        STARTUPINFOW startup{};
-        startup.cb = sizeof startup;
-        PROCESS_INFORMATION started{};
-        std::wstring line = L"\"" + program.path + L"\"";
-        const double before = Seconds();
-        if (!::CreateProcessW(nullptr, line.data(), nullptr, nullptr, FALSE, 0, nullptr, nullptr, &startup, &started)) {
-            std::fprintf(stderr, "cannot start %ls: error %lu\n", program.path.c_str(), ::GetLastError());
-            std::exit(1);
-        }
-        process_.Reset(started.hProcess);
-        ::CloseHandle(started.hThread);
-        while (!Painted(::FindWindowW(program.windowClass.c_str(), nullptr))) {
-            if ((Seconds() - before) * 1000 > kDeadlineMs) {
-                std::fprintf(stderr, "%ls shows no window\n", program.path.c_str());
-                std::exit(1);
-            }
-            ::Sleep(1);
-        }
-        program.paintedMs.push_back((Seconds() - before) * 1000);
-        program.privateMegabytes.push_back(PrivateMegabytes(process_.Get()));
-    }
-    Run(const Run&) = delete;
-    Run& operator=(const Run&) = delete;
-    ~Run() {
-        ::TerminateProcess(process_.Get(), 0);
-        ::WaitForSingleObject(process_.Get(), kDeadlineMs);
-    }
-    [[nodiscard]] HANDLE Process() const { return process_.Get(); }
-
-private:
-    fw::UniqueKernelHandle process_;
-};
 
 long long FileSize(const std::wstring& path) {
     WIN32_FILE_ATTRIBUTE_DATA data{};
@@ -136,15 +60,18 @@ int wmain(int count, wchar_t** arguments) {
 
     // The first start of each reads its files from the disk; it does not count.
     for (Program& program : programs) {
-        const Run warmUp{program};
-        program.paintedMs.clear();
-        program.privateMegabytes.clear();
+        const Run warmUp{program.path, program.windowClass};
     }
-    for (int run = 0; run < runs; ++run)
-        for (Program& program : programs) const Run measured{program};
+    for (int run = 0; run < runs; ++run) {
+        for (Program& program : programs) {
+            const Run measured{program.path, program.windowClass};
+            program.paintedMs.push_back(measured.PaintedMs());
+            program.privateMegabytes.push_back(PrivateMegabytes(measured.Process()));
+        }
+    }
 
     for (Program& program : programs) {
-        const Run idle{program};
+        const Run idle{program.path, program.windowClass};
         const double before = CpuMs(idle.Process());
         ::Sleep(idleSeconds * 1000);
         program.idleCpuMs = CpuMs(idle.Process()) - before;

@@ -13,3 +13,11 @@ say "Start, memory and idle processor time: median of $runs starts each, in turn
 wine "$build/benchmarks/measure.exe" "$runs" "$idle" "$bare" BareWindow_WndClass "$bar" Korvane_WndClass
 say 'Writing a search text into an address: median of 11 runs each'
 wine "$build/benchmarks/encode_bench.exe"
+
+say 'Docked and hiding: 20 slides each way, then idle'
+key='HKCU\Software\Dunmere Software\Korvane\Settings'
+set_number() { wine reg add "$1" /v "$2" /t REG_DWORD /d "$3" /f >/dev/null; }
+set_number "$key\WindowPlacement" SaveWindowPlacement 1
+set_number "$key\WindowPlacement" DefaultDesktopBarMode 1
+set_number "$key" DesktopBarAutoHide 1
+wine "$build/benchmarks/dock_bench.exe" 20 "$idle" "$bar"

@@ -95,6 +95,14 @@ struct Arguments<WM_ACTIVATE> {
     static std::tuple<UINT, bool> From(const Message& m) { return {LOWORD(m.wparam), HIWORD(m.wparam) != 0}; }
 };
 
+// The colour depth in bits per pixel, then the screen's new extent in pixels.
+template <>
+struct Arguments<WM_DISPLAYCHANGE> {
+    static std::tuple<UINT, SIZE> From(const Message& m) {
+        return {static_cast<UINT>(m.wparam), SIZE{LOWORD(m.lparam), HIWORD(m.lparam)}};
+    }
+};
+
 // Client coordinates are signed: with the mouse captured they may lie left of or above the window.
 struct MouseArguments {
     static std::tuple<UINT, POINT> From(const Message& m) {

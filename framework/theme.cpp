@@ -19,6 +19,8 @@ struct Uxtheme {
         FunctionOf<decltype(::DrawThemeParentBackground)>(library.Get(), "DrawThemeParentBackground");
     decltype(&::SetWindowTheme) setWindowTheme =
         FunctionOf<decltype(::SetWindowTheme)>(library.Get(), "SetWindowTheme");
+    decltype(&::IsThemeActive) isThemeActive = FunctionOf<decltype(::IsThemeActive)>(library.Get(), "IsThemeActive");
+    decltype(&::IsAppThemed) isAppThemed = FunctionOf<decltype(::IsAppThemed)>(library.Get(), "IsAppThemed");
 };
 
 const Uxtheme& Library() {
@@ -31,6 +33,11 @@ const Uxtheme& Library() {
 
 bool ThemesAvailable() {
     return static_cast<bool>(Library().library);
+}
+
+bool VisualStylesActive() {
+    const Uxtheme& themes = Library();
+    return themes.isThemeActive && themes.isAppThemed && themes.isThemeActive() && themes.isAppThemed();
 }
 
 void Theme::Open(HWND window, const wchar_t* classes) {

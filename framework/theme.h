@@ -9,6 +9,9 @@ namespace fw {
 // True when "uxtheme.dll" can be loaded. Asked once per process; the answer is kept.
 [[nodiscard]] bool ThemesAvailable();
 
+// True while the user has a visual style and the program takes part in it. Asked anew at every call.
+[[nodiscard]] bool VisualStylesActive();
+
 // A visual style's theme for one window. Empty where there is no theme: every call on an empty theme does nothing, so
 // that callers draw their content all the same. The library is loaded by its full path when the first theme is opened.
 class Theme {

@@ -2,6 +2,8 @@
 
 #include <windows.h>
 
+#include "framework/system_library.h"
+
 namespace fw {
 
 bool IsWindowsAtLeast(WindowsVersion version) {
@@ -14,6 +16,11 @@ bool IsWindowsAtLeast(WindowsVersion version) {
     conditions = ::VerSetConditionMask(conditions, VER_MINORVERSION, VER_GREATER_EQUAL);
     conditions = ::VerSetConditionMask(conditions, VER_SERVICEPACKMAJOR, VER_GREATER_EQUAL);
     return ::VerifyVersionInfoW(&wanted, VER_MAJORVERSION | VER_MINORVERSION | VER_SERVICEPACKMAJOR, conditions) != 0;
+}
+
+bool IsWine() {
+    // Every process has this library, and only Wine's exports this function.
+    return FunctionOf<const char*()>(::GetModuleHandleW(L"ntdll.dll"), "wine_get_version") != nullptr;
 }
 
 } // namespace fw

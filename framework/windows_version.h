@@ -16,4 +16,7 @@ inline constexpr WindowsVersion kWindows10{10, 0};
 // Windows would call every version after 8 by 8's number.
 [[nodiscard]] bool IsWindowsAtLeast(WindowsVersion version);
 
+// True on Wine, which names the version of a Windows that it stands for but draws some things in its own way.
+[[nodiscard]] bool IsWine();
+
 } // namespace fw

@@ -3,19 +3,14 @@
 #include <shellapi.h>
 
 #include "framework/string_table.h"
-#include "res/ids.h"
-#include "settings/logic/setting_keys.h"
+#include "launch/logic/launch_limits.h"
+#include "launch/stored_line.h"
 
 namespace korvane::launch {
 
 CommandEntry LoadCommandEntry(UINT command, const settings::ProfileStore& store) {
-    std::wstring line;
-    if (command >= ID_LAUNCH_BUTTON_1) {
-        const int number = static_cast<int>(command) - ID_LAUNCH_BUTTON_1 + 1;
-        line = store.Read(settings::keys::LaunchMenuItem, number);
-    }
-    if (line.empty()) line = fw::LoadText(command);
-    return ParseCommandEntry(line);
+    return ParseCommandEntry(command >= ID_LAUNCH_BUTTON_1 ? ReadStoredLine(store, LaunchItemIndex(command)).text
+                                                           : fw::LoadText(command));
 }
 
 INT_PTR RunCommandEntry(const CommandEntry& entry, int showCommand) {

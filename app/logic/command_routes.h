@@ -18,6 +18,9 @@ enum class Route {
     kBrowseFolder,
     kRunEntry,
     kChooseSearch,
+    kToggleMode,
+    kToggleTopmost,
+    kToggleAutoHide,
     kExit,
 };
 
@@ -40,6 +43,9 @@ inline constexpr std::array kCommandRanges{
     CommandRange{ID_OPEN_CONTROL_PANEL,   ID_OPEN_CONTROL_PANEL,   Route::kOpenMenuButton},
     CommandRange{ID_ENTRY_FIRST,          ID_ENTRY_LAST,           Route::kRunEntry},
     CommandRange{ID_SEARCH_FIRST,         ID_SEARCH_LAST,          Route::kChooseSearch},
+    CommandRange{ID_DESKTOP_BAR_MODE,     ID_DESKTOP_BAR_MODE,     Route::kToggleMode},
+    CommandRange{ID_TOPMOST,              ID_TOPMOST,              Route::kToggleTopmost},
+    CommandRange{ID_AUTO_HIDE,            ID_AUTO_HIDE,            Route::kToggleAutoHide},
     CommandRange{ID_EXIT,                 ID_EXIT,                 Route::kExit},
 };
 // clang-format on

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "base/format_text.h"
 #include "base/text.h"
 
 namespace korvane::launch {
@@ -11,6 +12,12 @@ LineFields SplitLaunchLine(std::wstring_view line) {
     const auto pieces = base::SplitText(line, L',');
     for (std::size_t i = 0; i < std::min(pieces.size(), kLineFields); ++i) fields[i] = base::Trimmed(pieces[i]);
     return fields;
+}
+
+std::wstring FormatLaunchLine(const LaunchLineParts& parts) {
+    const auto orBlank = [](std::wstring_view field) { return field.empty() ? std::wstring_view{L" "} : field; };
+    return base::FormatText(L"%s,%s,%s,%s,%d,%s", parts.path, orBlank(parts.arguments), orBlank(parts.workingFolder),
+                            parts.iconFile, parts.iconIndex, parts.name);
 }
 
 } // namespace korvane::launch

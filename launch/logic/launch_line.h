@@ -15,4 +15,18 @@ using LineFields = std::array<std::wstring, kLineFields>;
 // trimmed, what follows the sixth is dropped, and missing fields stay empty.
 [[nodiscard]] LineFields SplitLaunchLine(std::wstring_view line);
 
+// What a line is made of.
+struct LaunchLineParts {
+    std::wstring_view path;
+    std::wstring_view arguments;
+    std::wstring_view workingFolder;
+    std::wstring_view iconFile;
+    int iconIndex;
+    std::wstring_view name;
+};
+
+// The opposite of SplitLaunchLine. Only arguments and working folder may be empty and are then written as a blank;
+// path, icon file and name are written as they stand. A comma within a field is not protected: what follows it is lost.
+[[nodiscard]] std::wstring FormatLaunchLine(const LaunchLineParts& parts);
+
 } // namespace korvane::launch

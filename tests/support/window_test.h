@@ -12,6 +12,7 @@
 #include "framework/gdi.h"
 #include "framework/handle.h"
 #include "framework/window.h"
+#include "tests/support/pump.h"
 
 namespace korvane::test {
 
@@ -108,21 +109,7 @@ protected:
         SendMouse(window, WM_LBUTTONDOWN, at, MK_LBUTTON);
         SendMouse(window, WM_LBUTTONUP, at);
     }
-    // Dispatches what waits in the thread's queue and does not wait for more. Gives the exit code when the thread was
-    // told to quit.
-    static std::optional<int> Pump() {
-        std::optional<int> quit;
-        MSG message{};
-        while (::PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE)) {
-            if (message.message == WM_QUIT) {
-                quit = static_cast<int>(message.wParam);
-                continue;
-            }
-            ::TranslateMessage(&message);
-            ::DispatchMessageW(&message);
-        }
-        return quit;
-    }
+    static std::optional<int> Pump() { return PumpMessages(); }
 
     RecordingHost host;
 };

@@ -61,3 +61,43 @@ TEST(CommandEntry, ReadsTheIconIndexAsALeadingNumber) {
 TEST(CommandEntry, TakesAnIndexOfMinusOneAsNoIcon) {
     EXPECT_FALSE(ParseCommandEntry(L"p, , ,shell32.dll,-1").HasIcon());
 }
+
+namespace {
+
+std::wstring Format(std::wstring_view path, std::wstring_view arguments, std::wstring_view folder,
+                    std::wstring_view iconFile, int iconIndex, std::wstring_view name) {
+    return korvane::launch::FormatLaunchLine({.path = path,
+                                              .arguments = arguments,
+                                              .workingFolder = folder,
+                                              .iconFile = iconFile,
+                                              .iconIndex = iconIndex,
+                                              .name = name});
+}
+
+} // namespace
+
+TEST(LaunchLineFormat, WritesEmptyArgumentsAndFolderAsABlank) {
+    EXPECT_EQ(Format(L"regedit.exe", L"", L"", L"regedit.exe", 0, L"レジストリ エディタ"),
+              L"regedit.exe, , ,regedit.exe,0,レジストリ エディタ");
+}
+
+TEST(LaunchLineFormat, WritesPathIconFileAndNameAsTheyStandEvenWhenTheyAreEmpty) {
+    EXPECT_EQ(Format(L"", L"a", L"b", L"", -1, L""), L",a,b,,-1,");
+}
+
+TEST(LaunchLineFormat, WritesTheIndexAsADecimalNumber) {
+    EXPECT_EQ(Format(L"p", L"a", L"f", L"i", -2147483647 - 1, L"n"), L"p,a,f,i,-2147483648,n");
+    EXPECT_EQ(Format(L"p", L"a", L"f", L"i", 2147483647, L"n"), L"p,a,f,i,2147483647,n");
+}
+
+TEST(LaunchLineFormat, IsReadBackWhole) {
+    EXPECT_EQ(Fields(Format(L"C:\\a b\\c.exe", L"/x %s \"y\"", L"D:\\", L"c.ico", 12, L"名前")),
+              L"[C:\\a b\\c.exe][/x %s \"y\"][D:\\][c.ico][12][名前]");
+}
+
+TEST(LaunchLineFormat, StoresACommaInTheNameThatIsNotReadBack) {
+    const std::wstring line = Format(L"a.exe", L"", L"", L"a.exe", 0, L"A,B");
+
+    EXPECT_EQ(line, L"a.exe, , ,a.exe,0,A,B");
+    EXPECT_EQ(Fields(line), L"[a.exe][][][a.exe][0][A]");
+}

@@ -1,0 +1,165 @@
+#include "framework/menu_images.h"
+
+#include <algorithm>
+#include <cstdint>
+#include <span>
+#include <utility>
+
+#include "framework/gdi.h"
+#include "framework/menu_pixels.h"
+#include "framework/theme.h"
+#include "framework/windows_version.h"
+
+namespace fw {
+namespace {
+
+using korvane::base::Rect;
+using korvane::base::Size;
+
+// A square bitmap of 32-bit pixels, top row first.
+class PixelSquare {
+public:
+    explicit PixelSquare(int sidePx) {
+        BITMAPINFO info{};
+        info.bmiHeader.biSize = sizeof info.bmiHeader;
+        info.bmiHeader.biWidth = sidePx;
+        info.bmiHeader.biHeight = -sidePx;
+        info.bmiHeader.biPlanes = 1;
+        info.bmiHeader.biBitCount = 32;
+        void* bits = nullptr;
+        bitmap_.Reset(::CreateDIBSection(nullptr, &info, DIB_RGB_COLORS, &bits, nullptr, 0));
+        if (bitmap_) pixels_ = {static_cast<std::uint32_t*>(bits), static_cast<std::size_t>(sidePx) * sidePx};
+    }
+
+    [[nodiscard]] HBITMAP Bitmap() const { return bitmap_.Get(); }
+    // Empty when there is no bitmap.
+    [[nodiscard]] std::span<std::uint32_t> Pixels() const { return pixels_; }
+    [[nodiscard]] UniqueBitmap Take() { return std::move(bitmap_); }
+
+private:
+    UniqueBitmap bitmap_;
+    std::span<std::uint32_t> pixels_;
+};
+
+bool PaintIcon(const PixelSquare& target, std::uint32_t ground, HICON icon, int sidePx) {
+    std::ranges::fill(target.Pixels(), ground);
+    const UniqueMemoryDc dc{::CreateCompatibleDC(nullptr)};
+    const SelectedObject selected{dc.Get(), target.Bitmap()};
+    const bool painted = ::DrawIconEx(dc.Get(), 0, 0, icon, sidePx, sidePx, 0, nullptr, DI_NORMAL) != FALSE;
+    // Drawing may be held back until the pixels are read by GDI; they are going to be read directly.
+    ::GdiFlush();
+    return painted;
+}
+
+UniqueBitmap PictureOf(HICON icon, int sidePx) {
+    constexpr std::uint32_t kBlack = 0x00000000;
+    constexpr std::uint32_t kWhite = 0x00FFFFFF;
+    PixelSquare picture{sidePx};
+    const PixelSquare overWhite{sidePx};
+    if (!icon || !picture.Bitmap() || !overWhite.Bitmap()) return {};
+    if (!PaintIcon(picture, kBlack, icon, sidePx) || !PaintIcon(overWhite, kWhite, icon, sidePx)) return {};
+    std::ranges::transform(picture.Pixels(), overWhite.Pixels(), picture.Pixels().begin(), &PremultipliedPixel);
+    return picture.Take();
+}
+
+UniqueBitmap DimmedCopyOf(HBITMAP picture) {
+    DIBSECTION section{};
+    if (::GetObjectW(picture, sizeof section, &section) != sizeof section) return {};
+    const int sidePx = static_cast<int>(section.dsBm.bmWidth);
+    PixelSquare copy{sidePx};
+    const std::span from{static_cast<const std::uint32_t*>(section.dsBm.bmBits), copy.Pixels().size()};
+    std::ranges::transform(from, copy.Pixels().begin(), &DimmedPixel);
+    return copy.Take();
+}
+
+// The images that Windows draws of its own accord, such as the cross beside "Close"; the owner's callback and real
+// bitmaps are none of them.
+bool IsSystemImage(HBITMAP image) {
+    const auto number = reinterpret_cast<std::intptr_t>(image);
+    return number > 0 && number <= reinterpret_cast<std::intptr_t>(HBMMENU_POPUP_MINIMIZE);
+}
+
+constexpr bool IsGreyed(UINT state) {
+    return (state & (MF_GRAYED | MF_DISABLED)) != 0;
+}
+
+} // namespace
+
+MenuImageStyle CurrentMenuImageStyle() {
+    return MenuImageStyleFor(IsWine(), VisualStylesActive());
+}
+
+MenuImages::MenuImages(int imagePx, Size cell, std::function<MenuImageStyle()> style)
+    : imagePx_{imagePx}, cell_{cell}, style_{std::move(style)} {}
+
+void MenuImages::Set(UINT command, HICON icon) {
+    images_[command] = {.source = {}, .normal = PictureOf(icon, imagePx_), .dimmed = {}};
+}
+
+void MenuImages::Set(UINT command, IconSource source) {
+    images_[command] = {.source = std::move(source), .normal = {}, .dimmed = {}};
+}
+
+void MenuImages::Remove(UINT command) {
+    images_.erase(command);
+}
+
+void MenuImages::GiveTo(HMENU popup) {
+    // Without this the check marks would have a column of their own beside that of the images.
+    MENUINFO menu{};
+    menu.cbSize = sizeof menu;
+    menu.fMask = MIM_STYLE;
+    if (!::GetMenuInfo(popup, &menu)) return;
+    menu.dwStyle |= MNS_CHECKORBMP;
+    ::SetMenuInfo(popup, &menu);
+
+    const MenuImageStyle style = style_();
+    const int count = ::GetMenuItemCount(popup);
+    for (int position = 0; position < count; ++position) GiveToItem(popup, static_cast<UINT>(position), style);
+}
+
+void MenuImages::GiveToItem(HMENU popup, UINT position, MenuImageStyle style) {
+    MENUITEMINFOW item{};
+    item.cbSize = sizeof item;
+    item.fMask = MIIM_ID | MIIM_SUBMENU | MIIM_FTYPE | MIIM_STATE | MIIM_BITMAP;
+    if (!::GetMenuItemInfoW(popup, position, TRUE, &item)) return;
+    if (item.hSubMenu || (item.fType & MFT_SEPARATOR) != 0 || IsSystemImage(item.hbmpItem)) return;
+
+    HBITMAP image = BitmapOf(item.wID, IsGreyed(item.fState));
+    if (image && style == MenuImageStyle::kCallback) image = HBMMENU_CALLBACK;
+    if (image == item.hbmpItem) return;
+    item.fMask = MIIM_BITMAP;
+    item.hbmpItem = image;
+    ::SetMenuItemInfoW(popup, position, TRUE, &item);
+}
+
+HBITMAP MenuImages::BitmapOf(UINT command, bool greyed) {
+    const auto found = images_.find(command);
+    if (found == images_.end()) return nullptr;
+    Image& image = found->second;
+    if (image.source) image.normal = PictureOf(std::exchange(image.source, {})().Get(), imagePx_);
+    if (!greyed || !image.normal) return image.normal.Get();
+    if (!image.dimmed) image.dimmed = DimmedCopyOf(image.normal.Get());
+    return image.dimmed.Get();
+}
+
+Reply MenuImages::Measure(MEASUREITEMSTRUCT& item) const {
+    if (item.CtlType != ODT_MENU || !images_.contains(item.itemID)) return kPassOn;
+    item.itemWidth = static_cast<UINT>(cell_.width);
+    item.itemHeight = static_cast<UINT>(cell_.height);
+    return LRESULT{TRUE};
+}
+
+Reply MenuImages::Draw(const DRAWITEMSTRUCT& item) {
+    if (item.CtlType != ODT_MENU) return kPassOn;
+    const HBITMAP image = BitmapOf(item.itemID, (item.itemState & (ODS_GRAYED | ODS_DISABLED)) != 0);
+    if (!image) return kPassOn;
+    const UniqueMemoryDc source{::CreateCompatibleDC(item.hDC)};
+    const SelectedObject selected{source.Get(), image};
+    const Rect at = korvane::base::Centred(FromWindows(item.rcItem), {imagePx_, imagePx_});
+    constexpr BLENDFUNCTION kByAlpha{AC_SRC_OVER, 0, 255, AC_SRC_ALPHA};
+    ::GdiAlphaBlend(item.hDC, at.left, at.top, imagePx_, imagePx_, source.Get(), 0, 0, imagePx_, imagePx_, kByAlpha);
+    return LRESULT{TRUE};
+}
+
+} // namespace fw

@@ -1,0 +1,48 @@
+#include "launch/app_menu_bar.h"
+
+#include <utility>
+
+#include "framework/dpi.h"
+#include "res/ids.h"
+
+namespace korvane::launch {
+namespace {
+
+// Pixels. An image is a square; where the program draws it, it stands in the middle of a square as large as a button.
+constexpr int kImageSidePx = 16;
+constexpr int kButtonSidePx = 22;
+
+base::Size ButtonSize() {
+    return {fw::Scale()(kButtonSidePx), fw::Scale()(kButtonSidePx)};
+}
+
+} // namespace
+
+CAppMenuBar::CAppMenuBar(std::function<fw::MenuImageStyle()> style)
+    : images_{fw::Scale()(kImageSidePx), ButtonSize(), std::move(style)} {}
+
+bool CAppMenuBar::Create() {
+    menu_.Reset(::LoadMenuW(::GetModuleHandleW(nullptr), MAKEINTRESOURCEW(IDM_BAR)));
+    return static_cast<bool>(menu_);
+}
+
+void CAppMenuBar::AddIcon(UINT command, HICON icon) {
+    RemoveImage(command);
+    images_.Set(command, icon);
+}
+
+void CAppMenuBar::AddIcon(UINT command, IconSource source) {
+    RemoveImage(command);
+    images_.Set(command, std::move(source));
+}
+
+void CAppMenuBar::RemoveImage(UINT command) {
+    // The item must not keep a bitmap that is gone.
+    MENUITEMINFOW item{};
+    item.cbSize = sizeof item;
+    item.fMask = MIIM_BITMAP;
+    ::SetMenuItemInfoW(menu_.Get(), command, FALSE, &item);
+    images_.Remove(command);
+}
+
+} // namespace korvane::launch

@@ -1,0 +1,103 @@
+#include "launch/launch_item.h"
+
+#include <shlwapi.h>
+
+#include <array>
+#include <tuple>
+
+#include "base/text.h"
+#include "framework/icons.h"
+#include "launch/logic/launch_limits.h"
+#include "launch/logic/launch_line.h"
+#include "launch/stored_line.h"
+#include "settings/logic/setting_keys.h"
+
+namespace korvane::launch {
+namespace {
+
+// The full path of a file that is named without its folder and can be found; anything else stays as it is.
+void FindOnSearchPath(std::wstring& file) {
+    std::array<wchar_t, MAX_PATH> path{};
+    if (file.find(L'\\') != std::wstring::npos || file.size() >= path.size()) return;
+    file.copy(path.data(), file.size());
+    if (::PathFindOnPathW(path.data(), nullptr)) file = path.data();
+}
+
+} // namespace
+
+bool CLaunchItem::Load(const settings::ProfileStore& store, int index, bool withIcon) {
+    icon_.Reset();
+    iconIndex_ = kNoIcon;
+    const StoredLine line = ReadStoredLine(store, index);
+    if (line.text.empty()) return false;
+
+    std::wstring iconIndexText;
+    std::tie(path_, arguments_, workingFolder_, iconFile_, iconIndexText, name_) =
+        std::tuple_cat(SplitLaunchLine(line.text));
+    if (!withIcon) return true;
+
+    if (iconFile_.empty()) return false;
+    iconIndex_ = base::LeadingInteger(iconIndexText);
+    ExtractIcon();
+    if (!icon_) return false;
+    if (line.builtIn) {
+        FindOnSearchPath(path_);
+        FindOnSearchPath(iconFile_);
+    }
+    return true;
+}
+
+void CLaunchItem::Set(std::wstring path, std::wstring arguments, std::wstring workingFolder, std::wstring name,
+                      std::optional<std::wstring> iconFile, int iconIndex) {
+    path_ = std::move(path);
+    arguments_ = std::move(arguments);
+    workingFolder_ = std::move(workingFolder);
+    name_ = std::move(name);
+    if (!iconFile) return;
+    iconFile_ = *std::move(iconFile);
+    iconIndex_ = iconIndex;
+    ExtractIcon();
+}
+
+void CLaunchItem::Assign(const CLaunchItem& other) {
+    if (this == &other) return;
+    path_ = other.path_;
+    arguments_ = other.arguments_;
+    workingFolder_ = other.workingFolder_;
+    iconFile_ = other.iconFile_;
+    name_ = other.name_;
+    iconIndex_ = other.iconIndex_;
+    ExtractIcon();
+}
+
+std::wstring CLaunchItem::Format() const {
+    return FormatLaunchLine({.path = path_,
+                             .arguments = arguments_,
+                             .workingFolder = workingFolder_,
+                             .iconFile = iconFile_,
+                             .iconIndex = iconIndex_,
+                             .name = name_});
+}
+
+void CLaunchItem::ExtractIcon() {
+    icon_.Reset();
+    if (!iconFile_.empty() && iconIndex_ != kNoIcon) icon_ = fw::ExtractSmallIcon(iconFile_, iconIndex_);
+}
+
+std::vector<CLaunchItem> LoadList(const settings::ProfileStore& store) {
+    std::vector<CLaunchItem> items;
+    for (int index = 0; index < MaxLaunchItems; ++index) {
+        CLaunchItem item;
+        if (!item.Load(store, index, true)) break;
+        items.push_back(std::move(item));
+    }
+    return items;
+}
+
+void SaveList(settings::ProfileStore& store, std::span<const CLaunchItem> items) {
+    store.DeleteSection(settings::section::kLaunchItems);
+    int number = 0;
+    for (const CLaunchItem& item : items) store.Write(settings::keys::LaunchMenuItem, ++number, item.Format());
+}
+
+} // namespace korvane::launch
