@@ -193,7 +193,6 @@ private:
     void NameMenusForThisWindows();
     void AddMenuImages();
     void RefreshMenuStates();
-    void BuildTaskMenu(HMENU popup);
     // Greys what there is nothing behind yet.
     void GreyUnbuilt();
     // Shows a menu at a point of the screen; gives the chosen command, or 0.

@@ -7,6 +7,7 @@
 #include "app/screen_saver.h"
 #include "app/session_end.h"
 #include "framework/gdi.h"
+#include "framework/menu_rows.h"
 #include "framework/scoped_flag.h"
 #include "framework/string_table.h"
 #include "launch/command_entries.h"
@@ -200,15 +201,9 @@ void CMainFrame::ClearHistory(Box box) {
 }
 
 void CMainFrame::BuildSearchCommandMenu() {
-    const HMENU menu = Popup(POPUP_SEARCH);
-    for (int at = ::GetMenuItemCount(menu) - 1; at >= 0; --at) ::DeleteMenu(menu, static_cast<UINT>(at), MF_BYPOSITION);
-
     const search::SearchMenuPlan plan = search::PlanSearchMenu(Stores(), fw::LoadText(IDS_SEARCH_SETTINGS));
-    for (const search::SearchMenuRow& row : plan.rows) {
-        const UINT state = row.IsSeparator() ? MF_SEPARATOR : MF_STRING;
-        ::AppendMenuW(menu, state, static_cast<UINT_PTR>(row.id), row.text.c_str());
-    }
-    MakeCurrent(search::SearchCommandId{plan.current.id}, plan.current.text);
+    fw::FillMenu(Popup(POPUP_SEARCH), plan.rows);
+    MakeCurrent(search::SearchCommandId{static_cast<int>(plan.current.command)}, plan.current.text);
 }
 
 void CMainFrame::MakeCurrent(search::SearchCommandId id, const std::wstring& name) {

@@ -84,7 +84,7 @@ fw::Reply CMainFrame::OnInitMenuPopup(const fw::Message& message) {
     const auto popup = reinterpret_cast<HMENU>(message.wparam);
     const HMENU mainMenu = Popup(POPUP_MAIN);
     if (popup == mainMenu) RefreshMenuStates();
-    if (popup == ::GetSubMenu(mainMenu, kTaskMenuPosition)) BuildTaskMenu(popup);
+    if (popup == ::GetSubMenu(mainMenu, kTaskMenuPosition)) tasks_.BuildMenu(popup, menus_, Handle(), taskNameChoice_);
     menus_.OnInitMenuPopup(popup);
     return fw::kPassOn;
 }
@@ -110,19 +110,6 @@ void CMainFrame::RefreshMenuStates() {
 void CMainFrame::GreyUnbuilt() {
     for (const UINT command : {ID_LAUNCH_SETTINGS, ID_SEARCH_SETTINGS})
         ::EnableMenuItem(menus_.Menu(), command, MF_BYCOMMAND | MF_GRAYED);
-}
-
-void CMainFrame::BuildTaskMenu(HMENU popup) {
-    for (int at = ::GetMenuItemCount(popup) - 1; at >= 0; --at)
-        ::DeleteMenu(popup, static_cast<UINT>(at), MF_BYPOSITION);
-    for (UINT command = ID_TASK_FIRST; command <= ID_TASK_LAST; ++command) menus_.RemoveImage(command);
-
-    tasks_.Refresh(Handle());
-    for (const TaskMenuRow& row : tasks_.MenuRows(taskNameChoice_)) {
-        const UINT kind = row.IsSeparator() ? MF_SEPARATOR : MF_STRING;
-        ::AppendMenuW(popup, kind | (row.enabled ? MF_ENABLED : MF_GRAYED), row.command, row.text.c_str());
-        if (const Task* const task = tasks_.Find(row.command)) menus_.AddIcon(row.command, task->icon.Get());
-    }
 }
 
 } // namespace korvane::app

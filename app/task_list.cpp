@@ -9,6 +9,7 @@
 
 #include "app/foreground.h"
 #include "app/logic/whole_characters.h"
+#include "framework/menu_rows.h"
 #include "framework/string_table.h"
 #include "framework/windows_version.h"
 #include "res/ids.h"
@@ -143,7 +144,7 @@ void TaskList::Refresh(HWND bar) {
     tasks_ = std::move(tasks);
 }
 
-std::vector<TaskMenuRow> TaskList::MenuRows(int nameChoice) const {
+std::vector<base::MenuRow> TaskList::MenuRows(int nameChoice) const {
     std::vector<TaskNames> names;
     names.reserve(tasks_.size());
     for (const Task& task : tasks_) names.push_back(task.names);
@@ -153,6 +154,19 @@ std::vector<TaskMenuRow> TaskList::MenuRows(int nameChoice) const {
 const Task* TaskList::Find(UINT command) const {
     const auto index = TaskIndexOf(command);
     return index && *index < tasks_.size() ? &tasks_[*index] : nullptr;
+}
+
+void TaskList::BuildMenu(HMENU popup, launch::CAppMenuBar& menus, HWND bar, int nameChoice) {
+    Refresh(bar);
+    fw::FillMenu(popup, MenuRows(nameChoice));
+    for (UINT command = ID_TASK_FIRST; command <= ID_TASK_LAST; ++command) {
+        const Task* const task = Find(command);
+        if (task) {
+            menus.AddIcon(command, task->icon.Get());
+        } else {
+            menus.RemoveImage(command);
+        }
+    }
 }
 
 void TaskList::SwitchTo(UINT command) const {

@@ -12,6 +12,7 @@
 #include "framework/handle.h"
 #include "framework/icons.h"
 #include "framework/late_bound.h"
+#include "launch/app_menu_bar.h"
 
 namespace korvane::app {
 
@@ -48,9 +49,11 @@ public:
 
     [[nodiscard]] std::span<const Task> Tasks() const { return tasks_; }
     // The rows of the menu; see PlanTaskMenu for the choice.
-    [[nodiscard]] std::vector<TaskMenuRow> MenuRows(int nameChoice) const;
+    [[nodiscard]] std::vector<base::MenuRow> MenuRows(int nameChoice) const;
     // The task behind a command of the menu; null when there is none.
     [[nodiscard]] const Task* Find(UINT command) const;
+    // Lists the tasks as they are now and fills a pop-up with them and their icons.
+    void BuildMenu(HMENU popup, launch::CAppMenuBar& menus, HWND bar, int nameChoice);
     // Brings the command's window to the foreground. A window that is gone does nothing.
     void SwitchTo(UINT command) const;
 

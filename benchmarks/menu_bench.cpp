@@ -1,15 +1,19 @@
-// How long the two longest menus take to be built, and from the request until they stand drawn and wait for the user;
+// How long the longest menus take to be built, and from the request until they stand drawn and wait for the user;
 // each beside a menu with the same rows and no images. Fifty openings of each, in turns.
 #include <windows.h>
 
 #include <algorithm>
 #include <cstdio>
 #include <functional>
+#include <semaphore>
 #include <string>
+#include <thread>
 #include <vector>
 
+#include "app/task_list.h"
 #include "base/format_text.h"
 #include "framework/icons.h"
+#include "framework/menu_rows.h"
 #include "framework/string_table.h"
 #include "framework/window.h"
 #include "launch/app_menu_bar.h"
@@ -88,37 +92,65 @@ void Print(const char* what, std::vector<double> times) {
                 times.back());
 }
 
-void Clear(HMENU popup) {
-    for (int at = ::GetMenuItemCount(popup) - 1; at >= 0; --at)
-        ::DeleteMenu(popup, static_cast<UINT>(at), MF_BYPOSITION);
+using Rows = std::vector<base::MenuRow>;
+
+// The rows under commands that have no image.
+void FillWithoutImages(HMENU popup, Rows rows) {
+    constexpr unsigned kFarFromAll = 20000;
+    for (base::MenuRow& row : rows)
+        if (!row.IsSeparator()) row.command += kFarFromAll;
+    fw::FillMenu(popup, rows);
 }
 
-// Added to the commands of a menu, it gives commands that have no image.
-constexpr unsigned kWithoutImages = 20000;
-
-void Append(HMENU popup, bool separator, unsigned command, const std::wstring& text) {
-    ::AppendMenuW(popup, separator ? MF_SEPARATOR : MF_STRING, separator ? 0 : command, text.c_str());
-}
-
-void FillPlainLaunchMenu(HMENU popup) {
-    Clear(popup);
+Rows LaunchRows() {
     std::vector<std::wstring> names;
     for (int i = 4; i <= 38; ++i) names.push_back(base::FormatText(L"プログラム %d", i));
-    for (const auto& row : launch::PlanLaunchMenu(names, fw::LoadText(IDS_LAUNCH_SETTINGS)))
-        Append(popup, row.IsSeparator(), row.command + kWithoutImages, row.text);
+    return launch::PlanLaunchMenu(names, fw::LoadText(IDS_LAUNCH_SETTINGS));
 }
 
-void FillSearchMenu(HMENU popup, unsigned offset) {
-    Clear(popup);
+Rows SearchRows() {
     search::SearchMenuGroup standard{search::SearchCommandKind::kStandard, {}};
     for (int i = 1; i <= search::kMostSelectedCommands; ++i) standard.numbers.push_back(i);
-    const auto plan = search::PlanSearchMenu(
-        std::vector{standard},
-        [](search::SearchCommandKind, int number) { return base::FormatText(L"検索コマンド %d", number); },
-        fw::LoadText(IDS_SEARCH_SETTINGS));
-    for (const auto& row : plan.rows)
-        Append(popup, row.IsSeparator(), static_cast<unsigned>(row.id) + offset, row.text);
+    return search::PlanSearchMenu(
+               std::vector{standard},
+               [](search::SearchCommandKind, int number) { return base::FormatText(L"検索コマンド %d", number); },
+               fw::LoadText(IDS_SEARCH_SETTINGS))
+        .rows;
 }
+
+// Ninety windows with a title and an icon, as another program would have them: they answer from a thread of their own.
+class Windows {
+public:
+    Windows() : thread_{[this] { Serve(); }} { created_.acquire(); }
+    Windows(const Windows&) = delete;
+    Windows& operator=(const Windows&) = delete;
+    ~Windows() {
+        ::PostThreadMessageW(id_, WM_QUIT, 0, 0);
+        thread_.join();
+    }
+
+private:
+    void Serve() {
+        constexpr int kWindows = 90;
+        const fw::UniqueIcon icon = fw::ExtractSmallIcon(L"notepad.exe", 0);
+        std::vector<fw::UniqueHandle<HWND, &::DestroyWindow>> windows;
+        for (int i = 1; i <= kWindows; ++i) {
+            windows.emplace_back(::CreateWindowExW(0, L"STATIC", base::FormatText(L"仕事 %d", i).c_str(),
+                                                   WS_OVERLAPPEDWINDOW, 0, 0, 50, 50, nullptr, nullptr, nullptr,
+                                                   nullptr));
+            ::SendMessageW(windows.back().Get(), WM_SETICON, ICON_SMALL, reinterpret_cast<LPARAM>(icon.Get()));
+            ::ShowWindow(windows.back().Get(), SW_SHOWNOACTIVATE);
+        }
+        id_ = ::GetCurrentThreadId();
+        created_.release();
+        MSG message{};
+        while (::GetMessageW(&message, nullptr, 0, 0) > 0) ::DispatchMessageW(&message);
+    }
+
+    std::binary_semaphore created_{0};
+    DWORD id_ = 0;
+    std::thread thread_;
+};
 
 } // namespace
 
@@ -132,26 +164,38 @@ int main() {
     if (!bar.Create() || !owner.Create({.text = L"menus", .rect = {0, 0, 10, 10}, .style = WS_POPUP})) return 1;
 
     const fw::UniqueMenu plainLaunch{::CreatePopupMenu()};
+    const fw::UniqueMenu plainTasks{::CreatePopupMenu()};
     const fw::UniqueMenu plainSearch{::CreatePopupMenu()};
+    const fw::UniqueMenu taskPopup{::CreatePopupMenu()};
     const HMENU searchPopup = bar.Popup(POPUP_SEARCH);
     const fw::UniqueIcon icon = fw::LoadResourceIcon(IDI_SEARCH, kImagePx);
+    const Windows windows;
+    app::TaskList tasks;
+    tasks.Refresh(owner.Handle());
+
     std::vector<Subject> subjects{
         {"launch menu, 35 items with images",
          launch::LaunchPopup(bar),
          [&] { launch::BuildLaunchMenu(bar, store); },
          {},
          {}},
-        {"the same without", plainLaunch.Get(), [&] { FillPlainLaunchMenu(plainLaunch.Get()); }, {}, {}},
+        {"the same without", plainLaunch.Get(), [&] { FillWithoutImages(plainLaunch.Get(), LaunchRows()); }, {}, {}},
+        {"task menu, 90 windows with images",
+         taskPopup.Get(),
+         [&] { tasks.BuildMenu(taskPopup.Get(), bar, owner.Handle(), 0); },
+         {},
+         {}},
+        {"the same without", plainTasks.Get(), [&] { FillWithoutImages(plainTasks.Get(), tasks.MenuRows(0)); }, {}, {}},
         {"search menu, 50 commands with images",
          searchPopup,
          [&] {
-             FillSearchMenu(searchPopup, 0);
+             fw::FillMenu(searchPopup, SearchRows());
              for (UINT command = ID_SEARCH_SETTINGS; command <= ID_SEARCH_SETTINGS + 50; ++command)
                  bar.AddIcon(command, icon.Get());
          },
          {},
          {}},
-        {"the same without", plainSearch.Get(), [&] { FillSearchMenu(plainSearch.Get(), kWithoutImages); }, {}, {}},
+        {"the same without", plainSearch.Get(), [&] { FillWithoutImages(plainSearch.Get(), SearchRows()); }, {}, {}},
     };
     for (int opening = 0; opening < kOpenings; ++opening) {
         for (Subject& subject : subjects) {

@@ -3,6 +3,7 @@
 #include <string>
 #include <vector>
 
+#include "framework/menu_rows.h"
 #include "framework/string_table.h"
 #include "launch/command_entries.h"
 #include "launch/launch_item.h"
@@ -36,14 +37,9 @@ HMENU LaunchPopup(const CAppMenuBar& bar) {
 
 void BuildLaunchMenu(CAppMenuBar& bar, const settings::ProfileStore& store) {
     const HMENU popup = LaunchPopup(bar);
-    for (int at = ::GetMenuItemCount(popup) - 1; at >= 0; --at)
-        ::RemoveMenu(popup, static_cast<UINT>(at), MF_BYPOSITION);
     for (UINT command = ID_LAUNCH_FIRST; command <= ID_LAUNCH_LAST; ++command) bar.RemoveImage(command);
 
-    for (const LaunchMenuRow& row : PlanLaunchMenu(AddIcons(bar, store), fw::LoadText(IDS_LAUNCH_SETTINGS))) {
-        const UINT kind = row.IsSeparator() ? MF_SEPARATOR : MF_STRING;
-        ::AppendMenuW(popup, kind, row.command, row.text.c_str());
-    }
+    fw::FillMenu(popup, PlanLaunchMenu(AddIcons(bar, store), fw::LoadText(IDS_LAUNCH_SETTINGS)));
 }
 
 std::optional<INT_PTR> RunLaunchItem(UINT command, const settings::ProfileStore& store) {

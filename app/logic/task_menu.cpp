@@ -2,8 +2,6 @@
 
 #include <algorithm>
 
-#include "base/menu_groups.h"
-
 namespace korvane::app {
 namespace {
 
@@ -22,15 +20,15 @@ std::wstring MenuTextOf(std::wstring_view name) {
 
 } // namespace
 
-std::vector<TaskMenuRow> PlanTaskMenu(std::span<const TaskNames> tasks, int nameChoice, std::wstring_view noTaskText) {
+std::vector<base::MenuRow> PlanTaskMenu(std::span<const TaskNames> tasks, int nameChoice,
+                                        std::wstring_view noTaskText) {
     if (tasks.empty()) return {{.command = ID_NO_TASK, .text = std::wstring{noTaskText}, .enabled = false}};
 
-    std::vector<TaskMenuRow> rows;
+    std::vector<base::MenuRow> rows;
     unsigned command = ID_TASK_FIRST;
     for (const TaskNames& task : tasks.first(std::min(tasks.size(), kMostTasks)))
         rows.push_back({command++, MenuTextOf(nameChoice == kShowDescription ? task.description : task.title)});
-    for (const int at : base::SeparatorPositions(static_cast<int>(rows.size())))
-        rows.insert(rows.begin() + at, TaskMenuRow{});
+    base::GroupByFive(rows);
     return rows;
 }
 

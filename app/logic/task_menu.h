@@ -6,6 +6,7 @@
 #include <string_view>
 #include <vector>
 
+#include "base/menu_rows.h"
 #include "res/ids.h"
 
 namespace korvane::app {
@@ -33,23 +34,13 @@ struct TaskNames {
     std::wstring description; // of its program
 };
 
-// A row of the task menu; without a command it is a separator.
-struct TaskMenuRow {
-    unsigned command = 0;
-    std::wstring text;
-    bool enabled = true;
-
-    [[nodiscard]] bool IsSeparator() const { return command == 0; }
-    friend bool operator==(const TaskMenuRow&, const TaskMenuRow&) = default;
-};
-
 // There are no commands for more; they are not shown.
 inline constexpr std::size_t kMostTasks = ID_TASK_LAST - ID_TASK_FIRST + 1;
 
 // A row for each task in blocks of five, or a greyed one that says that there is none. `nameChoice` is the setting: 1
 // shows the program's description and everything else the title.
-[[nodiscard]] std::vector<TaskMenuRow> PlanTaskMenu(std::span<const TaskNames> tasks, int nameChoice,
-                                                    std::wstring_view noTaskText);
+[[nodiscard]] std::vector<base::MenuRow> PlanTaskMenu(std::span<const TaskNames> tasks, int nameChoice,
+                                                      std::wstring_view noTaskText);
 
 // The number of the picture of a program without one, in the system's library of pictures.
 [[nodiscard]] constexpr int DefaultTaskIcon(bool windows7OrLater) {

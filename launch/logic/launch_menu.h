@@ -5,16 +5,9 @@
 #include <string_view>
 #include <vector>
 
+#include "base/menu_rows.h"
+
 namespace korvane::launch {
-
-// A row of the launch menu; without a command it is a separator.
-struct LaunchMenuRow {
-    unsigned command = 0;
-    std::wstring text;
-
-    [[nodiscard]] bool IsSeparator() const { return command == 0; }
-    friend bool operator==(const LaunchMenuRow&, const LaunchMenuRow&) = default;
-};
 
 // What the launch menu holds, given the names of the items behind the launch buttons: an entry for each in blocks of
 // five, a separator, and the way to the settings; without items only the latter. Characters to choose an entry by go by
@@ -22,7 +15,7 @@ struct LaunchMenuRow {
 //
 // Names are shown as they stand. One with an ampersand, which the editor refuses, still obeys its own character and no
 // other: a menu goes by the first ampersand of a text, and that is the one in front of the name.
-[[nodiscard]] std::vector<LaunchMenuRow> PlanLaunchMenu(std::span<const std::wstring> names,
+[[nodiscard]] std::vector<base::MenuRow> PlanLaunchMenu(std::span<const std::wstring> names,
                                                         std::wstring_view settingsText);
 
 } // namespace korvane::launch

@@ -5,7 +5,6 @@
 #include <utility>
 
 #include "base/format_text.h"
-#include "base/menu_groups.h"
 #include "base/text.h"
 #include "res/ids.h"
 #include "settings/logic/setting_keys.h"
@@ -23,14 +22,14 @@ constexpr bool IsMenuCommand(SearchCommandId id) {
 }
 
 void AppendSearchCommandGroup(const SearchMenuGroup& group, const SearchCommandNameOf& nameOf,
-                              std::vector<SearchMenuRow>& rows) {
+                              std::vector<base::MenuRow>& rows) {
     for (const int number : group.numbers) {
         // The options never select more; only a list written by another hand can.
         if (rows.size() >= std::size_t{kMostSelectedCommands}) return;
         const SearchCommandId id{group.kind, number};
         if (number < 1 || number > ID_SEARCH_LAST || !IsMenuCommand(id)) continue;
         auto name = nameOf(group.kind, number);
-        if (!name.empty()) rows.push_back({id.Value(), std::move(name)});
+        if (!name.empty()) rows.push_back({static_cast<unsigned>(id.Value()), std::move(name)});
     }
 }
 
@@ -103,8 +102,7 @@ SearchMenuPlan PlanSearchMenu(std::span<const SearchMenuGroup> groups, const Sea
     for (const auto& group : groups) AppendSearchCommandGroup(group, nameOf, plan.rows);
     // Whatever was current before, the first command of the new menu is current now; that is on purpose.
     if (!plan.rows.empty()) plan.current = plan.rows.front();
-    for (const int at : base::SeparatorPositions(static_cast<int>(plan.rows.size())))
-        plan.rows.insert(plan.rows.begin() + at, SearchMenuRow{});
+    base::GroupByFive(plan.rows);
     plan.rows.push_back({});
     plan.rows.push_back({ID_SEARCH_SETTINGS, std::wstring{settingsText}});
     return plan;

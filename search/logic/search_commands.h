@@ -7,6 +7,7 @@
 #include <string_view>
 #include <vector>
 
+#include "base/menu_rows.h"
 #include "settings/logic/profile_store.h"
 
 namespace korvane::search {
@@ -104,20 +105,10 @@ struct SearchMenuGroup {
 // Both kinds' selections, the one that the user wants first in front.
 [[nodiscard]] std::array<SearchMenuGroup, 2> ReadSearchMenuGroups(const settings::ProfileStore& settings);
 
-// A row of the search menu; without an identifier it is a separator.
-struct SearchMenuRow {
-    int id = 0;
-    std::wstring text;
-
-    [[nodiscard]] bool IsSeparator() const { return id == 0; }
-    friend bool operator==(const SearchMenuRow&, const SearchMenuRow&) = default;
-};
-
 struct SearchMenuPlan {
-    std::vector<SearchMenuRow> rows;
-    // The command that becomes current and the text that the chooser then shows. Identifier 0 and an empty text when no
-    // command is selected.
-    SearchMenuRow current;
+    std::vector<base::MenuRow> rows;
+    // What becomes current, with the text that the chooser then shows; a row without a command when none is selected.
+    base::MenuRow current;
 };
 
 // Gives a command's name, or nothing when there is no such command.

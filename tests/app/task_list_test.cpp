@@ -204,14 +204,14 @@ TEST_F(TaskListTest, ShowsTwelveTasksInBlocksOfFive) {
     EXPECT_EQ(rows[4].text, L"window 5");
     EXPECT_TRUE(rows[5].IsSeparator());
     EXPECT_TRUE(rows[11].IsSeparator());
-    EXPECT_EQ(rows[13], (TaskMenuRow{4512, L"window 12"}));
+    EXPECT_EQ(rows[13], (base::MenuRow{4512, L"window 12"}));
 }
 
 TEST_F(TaskListTest, SaysThatThereIsNoTask) {
     TaskList list{sources};
     list.Refresh(nullptr);
 
-    EXPECT_THAT(list.MenuRows(0), ElementsAre(TaskMenuRow{4500, L"(表示すべきタスクがありません)", false}));
+    EXPECT_THAT(list.MenuRows(0), ElementsAre(base::MenuRow{4500, L"(表示すべきタスクがありません)", false}));
 }
 
 TEST_F(TaskListTest, HoldsNoMoreThanAHundredTasks) {

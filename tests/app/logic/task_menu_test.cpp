@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+using namespace korvane;
 using namespace korvane::app;
 
 namespace {
@@ -16,9 +17,9 @@ std::vector<TaskNames> Tasks(int count) {
 }
 
 // The commands, "-" for a separator.
-std::string Commands(const std::vector<TaskMenuRow>& rows) {
+std::string Commands(const std::vector<base::MenuRow>& rows) {
     std::string all;
-    for (const TaskMenuRow& row : rows)
+    for (const base::MenuRow& row : rows)
         all += row.IsSeparator() ? "- " : std::to_string(row.command) + (row.enabled ? " " : " (grey) ");
     return all;
 }
@@ -43,7 +44,7 @@ TEST(IsTask, EachReasonAloneKeepsAWindowOut) {
 }
 
 TEST(PlanTaskMenu, SaysInGreyThatThereIsNoTask) {
-    EXPECT_EQ(PlanTaskMenu({}, 0, kNone), (std::vector<TaskMenuRow>{{4500, L"(none)", false}}));
+    EXPECT_EQ(PlanTaskMenu({}, 0, kNone), (std::vector<base::MenuRow>{{4500, L"(none)", false}}));
 }
 
 TEST(PlanTaskMenu, FiveTasksNeedNoSeparator) {

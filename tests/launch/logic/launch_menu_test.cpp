@@ -7,6 +7,7 @@
 
 #include "launch/logic/launch_limits.h"
 
+using namespace korvane;
 using namespace korvane::launch;
 
 namespace {
@@ -22,7 +23,7 @@ std::vector<std::wstring> Names(int count) {
 // One line: the texts, "-" for a separator.
 std::wstring Shown(const std::vector<std::wstring>& names) {
     std::wstring all;
-    for (const LaunchMenuRow& row : PlanLaunchMenu(names, kSettings))
+    for (const base::MenuRow& row : PlanLaunchMenu(names, kSettings))
         all += (all.empty() ? L"" : L"|") + (row.IsSeparator() ? L"-" : row.text);
     return all;
 }
@@ -71,9 +72,9 @@ TEST(LaunchMenuPlan, HoldsThirtyFiveItemsInSevenBlocks) {
     for (std::size_t i = 0; i < rows.size(); ++i)
         if (rows[i].IsSeparator()) separators.push_back(i);
     EXPECT_EQ(separators, (std::vector<std::size_t>{5, 11, 17, 23, 29, 35, 41}));
-    EXPECT_EQ(rows[0], (LaunchMenuRow{4028, L"[&1] n1"}));
-    EXPECT_EQ(rows[40], (LaunchMenuRow{4062, L"[&Z] n35"}));
-    EXPECT_EQ(rows[42], (LaunchMenuRow{4063, L"[&0] settings"}));
+    EXPECT_EQ(rows[0], (base::MenuRow{4028, L"[&1] n1"}));
+    EXPECT_EQ(rows[40], (base::MenuRow{4062, L"[&Z] n35"}));
+    EXPECT_EQ(rows[42], (base::MenuRow{4063, L"[&0] settings"}));
 }
 
 TEST(LaunchMenuPlan, LeavesOutWhatHasNoCharacterLeft) {
@@ -82,7 +83,7 @@ TEST(LaunchMenuPlan, LeavesOutWhatHasNoCharacterLeft) {
 
 TEST(LaunchMenuPlan, NumbersTheCommandsWithoutAGap) {
     unsigned expected = 4028;
-    for (const LaunchMenuRow& row : PlanLaunchMenu(Names(35), kSettings)) {
+    for (const base::MenuRow& row : PlanLaunchMenu(Names(35), kSettings)) {
         if (!row.IsSeparator()) {
             EXPECT_EQ(row.command, expected++);
         }
@@ -98,7 +99,7 @@ TEST(LaunchMenuPlan, ShowsNamesAsTheyStandWithAmpersandsPercentSignsAndTabs) {
 // A menu goes by the first ampersand.
 TEST(LaunchMenuPlan, PutsItsOwnAmpersandBeforeAnyOfTheName) {
     char expected = '1';
-    for (const LaunchMenuRow& row : PlanLaunchMenu(std::vector<std::wstring>(9, L"&X&&1&"), kSettings)) {
+    for (const base::MenuRow& row : PlanLaunchMenu(std::vector<std::wstring>(9, L"&X&&1&"), kSettings)) {
         if (row.IsSeparator()) continue;
         const wchar_t own = row.command == 4063 ? L'0' : static_cast<wchar_t>(expected++);
         EXPECT_EQ(row.text.at(row.text.find(L'&') + 1), own) << row.command;

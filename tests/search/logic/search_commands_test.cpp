@@ -31,7 +31,7 @@ std::wstring Shape(const SearchMenuPlan& plan) {
     std::wstring shape;
     for (const auto& row : plan.rows) {
         if (!shape.empty()) shape += L' ';
-        shape += row.IsSeparator() ? L"|" : std::to_wstring(row.id);
+        shape += row.IsSeparator() ? L"|" : std::to_wstring(row.command);
     }
     return shape;
 }
@@ -205,7 +205,7 @@ TEST_F(SearchMenu, PutsTheUsersCommandsFirstByDefault) {
     const auto plan = Plan();
 
     EXPECT_EQ(Shape(plan), L"5053 5052 5003 | 5000");
-    EXPECT_EQ(plan.current, (SearchMenuRow{5053, L"u2"}));
+    EXPECT_EQ(plan.current, (base::MenuRow{5053, L"u2"}));
 }
 
 TEST_F(SearchMenu, PutsTheStandardCommandsFirstForAnyOtherPriority) {
@@ -220,7 +220,7 @@ TEST_F(SearchMenu, PutsTheStandardCommandsFirstForAnyOtherPriority) {
         const auto plan = Plan();
 
         EXPECT_EQ(Shape(plan), L"5003 5052 | 5000");
-        EXPECT_EQ(plan.current, (SearchMenuRow{5003, L"s3"}));
+        EXPECT_EQ(plan.current, (base::MenuRow{5003, L"s3"}));
     }
 }
 
@@ -237,7 +237,7 @@ TEST_F(SearchMenu, LeadsToTheSettingsEvenWithoutAnyCommand) {
     const auto plan = Plan();
 
     EXPECT_EQ(Shape(plan), L"| 5000");
-    EXPECT_EQ(plan.current, SearchMenuRow{});
+    EXPECT_EQ(plan.current, base::MenuRow{});
 }
 
 TEST_F(SearchMenu, TakesNoMoreThanFiftyCommands) {
@@ -253,7 +253,7 @@ TEST_F(SearchMenu, TakesNoMoreThanFiftyCommands) {
     int commands = 0;
     for (const auto& row : plan.rows) commands += row.IsSeparator() ? 0 : 1;
     EXPECT_EQ(commands, 50 + 1);
-    EXPECT_EQ(plan.rows[plan.rows.size() - 3].id, 5101);
+    EXPECT_EQ(plan.rows[plan.rows.size() - 3].command, 5101U);
 }
 
 TEST_F(SearchMenu, StaysWithinTheCommandsOfTheFrame) {
