@@ -8,10 +8,12 @@
 #include <string>
 
 #include "app/bar_controls.h"
+#include "app/clipboard_monitor.h"
 #include "app/help_session.h"
 #include "app/logic/bar_layout.h"
 #include "app/logic/docked_window.h"
 #include "app/logic/docking.h"
+#include "app/task_list.h"
 #include "app/win_shell.h"
 #include "base/colour.h"
 #include "base/geometry.h"
@@ -22,6 +24,7 @@
 #include "framework/message_loop.h"
 #include "framework/timer.h"
 #include "framework/window.h"
+#include "launch/app_menu_bar.h"
 #include "res/ids.h"
 #include "search/drop_down_dialog.h"
 #include "search/logic/execute_search.h"
@@ -62,6 +65,9 @@ public:
             fw::On<WM_DISPLAYCHANGE>(&CMainFrame::OnDisplayChange),
             fw::On<kShellMessage>(&CMainFrame::OnShellEvent),
             fw::On<WM_TIMER>(&CMainFrame::OnTimer),
+            fw::On<WM_CLIPBOARDUPDATE>(&CMainFrame::OnClipboardUpdate),
+            fw::On<WM_INITMENUPOPUP>(&CMainFrame::OnInitMenuPopup),
+            fw::On<WM_MEASUREITEM>(&CMainFrame::OnMeasureItem),
             fw::On<WM_GETMINMAXINFO>(&CMainFrame::OnGetMinMaxInfo),
             fw::On<WM_NCHITTEST>(&CMainFrame::OnHitTest),
             fw::On<WM_ERASEBKGND>(&CMainFrame::OnEraseBackground),
@@ -146,6 +152,9 @@ private:
     void OnDisplayChange(UINT bitsPerPixel, SIZE screen);
     void OnShellEvent(const fw::Message& message);
     fw::Reply OnTimer(UINT_PTR id);
+    void OnClipboardUpdate(const fw::Message& message);
+    fw::Reply OnInitMenuPopup(const fw::Message& message);
+    fw::Reply OnMeasureItem(MEASUREITEMSTRUCT& item);
     void OnGetMinMaxInfo(MINMAXINFO& info);
     LRESULT OnHitTest(const fw::Message& message);
     bool OnEraseBackground(HDC dc);
@@ -177,11 +186,25 @@ private:
     [[nodiscard]] base::Size Borders() const;
     void RememberWindowRect();
 
+    // Menus.
+    void NameMenusForThisWindows();
+    void AddMenuImages();
+    void RefreshMenuStates();
+    void BuildTaskMenu(HMENU popup);
+    // Greys what there is nothing behind yet.
+    void GreyUnbuilt();
     // Shows a menu at a point of the screen; gives the chosen command, or 0.
     UINT Track(HMENU menu, UINT flags, POINT at);
+    // The same when the user did not come from the bar itself.
+    void TrackFromOutside(HMENU menu);
 
     // Commands.
     void ShowBarUnderCursor();
+    void RunLaunchItem(UINT command);
+    void RunProgram(UINT command);
+    // Tells what went wrong when the shell's result says that something did.
+    void ReportStart(INT_PTR result, fw::Centring centring);
+    void ToggleClipboardMonitor();
     void ToggleAutoHide();
     void ToggleTopmost();
     void ReturnFocusTo(search::Box box);
@@ -209,7 +232,7 @@ private:
     FramePlaces places_;
     fw::MessageLoop::Registration filter_;
     fw::UniqueHandle<HACCEL, &::DestroyAcceleratorTable> accelerators_;
-    fw::UniqueMenu menu_;
+    launch::CAppMenuBar menus_;
     fw::HotKey showBarKey_;
     fw::HotKey launchMenuKey_;
 
@@ -239,6 +262,11 @@ private:
     std::array<fw::Timer, 4> dockTimers_; // by identifier, from 1
     bool wasActive_ = false;              // before it was hidden
     bool narrowReported_ = false;
+
+    ClipboardMonitor clipboard_;
+    bool clipboardMonitored_ = false;
+    TaskList tasks_;
+    int taskNameChoice_ = 0;
 
     bool clockShown_ = false;
     HWND lastFocus_ = nullptr;

@@ -177,12 +177,6 @@ fw::Reply CMainFrame::Dispatch(const fw::Message& message) {
     return LRESULT{0};
 }
 
-fw::Reply CMainFrame::OnTimer(UINT_PTR id) {
-    if (id < 1 || id > dockTimers_.size()) return fw::kPassOn;
-    docking_.OnTimer(static_cast<DockTimer>(id));
-    return LRESULT{0};
-}
-
 fw::Reply CMainFrame::OnPlaceChanged(const fw::Message&) {
     docking_.OnPlaceChanged();
     // Sizes and moves are made of it.

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <windows.h>
+
 #include <cstdint>
 #include <optional>
 
@@ -9,5 +11,9 @@ namespace fw {
 // The colour of window frames as the desktop window manager reports it, 0xAARRGGBB; empty when there is no such manager
 // or it does not answer.
 [[nodiscard]] std::optional<std::uint32_t> ColorizationColour();
+
+// True for a window that its program shows but the desktop window manager does not: that of a suspended app, or one of
+// another virtual desktop. Systems before Windows 8 have no such windows.
+[[nodiscard]] bool IsCloaked(HWND window);
 
 } // namespace fw

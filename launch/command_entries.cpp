@@ -13,9 +13,9 @@ CommandEntry LoadCommandEntry(UINT command, const settings::ProfileStore& store)
                                                            : fw::LoadText(command));
 }
 
-INT_PTR RunCommandEntry(const CommandEntry& entry) {
+INT_PTR RunCommandEntry(const CommandEntry& entry, int showCommand) {
     return reinterpret_cast<INT_PTR>(::ShellExecuteW(nullptr, L"open", entry.path.c_str(), entry.arguments.c_str(),
-                                                     entry.workingFolder.c_str(), SW_SHOW));
+                                                     entry.workingFolder.c_str(), showCommand));
 }
 
 } // namespace korvane::launch

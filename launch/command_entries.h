@@ -11,7 +11,8 @@ namespace korvane::launch {
 // settings first; what is not there comes from the string table.
 [[nodiscard]] CommandEntry LoadCommandEntry(UINT command, const settings::ProfileStore& store);
 
-// Starts an entry with the shell; gives the shell's result, which is an error code when it is 32 or less.
-[[nodiscard]] INT_PTR RunCommandEntry(const CommandEntry& entry);
+// Starts an entry with the shell and shows its window so (SW_...); gives the shell's result, which is an error code
+// when it is 32 or less.
+[[nodiscard]] INT_PTR RunCommandEntry(const CommandEntry& entry, int showCommand = SW_SHOW);
 
 } // namespace korvane::launch
