@@ -50,6 +50,7 @@ void CMainFrame::ShowFirst(int showCommand) {
     ::UpdateWindow(Handle());
     // The children too, before what could wait until the bar is to be seen.
     ::RedrawWindow(Handle(), nullptr, nullptr, RDW_UPDATENOW | RDW_ALLCHILDREN);
+    notificationIcon_.Add(Handle(), smallIcon_.Get());
     clipboard_.Start(Handle());
     launch::BuildLaunchMenu(menus_, settings_);
     GreyUnbuilt();
@@ -210,6 +211,7 @@ void CMainFrame::SaveState() {
 }
 
 void CMainFrame::OnDestroy() {
+    notificationIcon_.Remove();
     help_.CloseWindows();
     filter_.Reset();
     showBarKey_.Unregister();

@@ -13,6 +13,7 @@
 #include "app/logic/bar_layout.h"
 #include "app/logic/docked_window.h"
 #include "app/logic/docking.h"
+#include "app/notification_icon.h"
 #include "app/task_list.h"
 #include "app/win_shell.h"
 #include "base/colour.h"
@@ -64,6 +65,7 @@ public:
             fw::On<WM_WINDOWPOSCHANGED>(&CMainFrame::OnPlaceChanged),
             fw::On<WM_DISPLAYCHANGE>(&CMainFrame::OnDisplayChange),
             fw::On<kShellMessage>(&CMainFrame::OnShellEvent),
+            fw::On<NotificationIcon::kMessage>(&CMainFrame::OnNotificationIcon),
             fw::On<WM_TIMER>(&CMainFrame::OnTimer),
             fw::On<WM_CLIPBOARDUPDATE>(&CMainFrame::OnClipboardUpdate),
             fw::On<WM_INITMENUPOPUP>(&CMainFrame::OnInitMenuPopup),
@@ -151,6 +153,7 @@ private:
     fw::Reply OnPlaceChanged(const fw::Message& message);
     void OnDisplayChange(UINT bitsPerPixel, SIZE screen);
     void OnShellEvent(const fw::Message& message);
+    void OnNotificationIcon(const fw::Message& message);
     fw::Reply OnTimer(UINT_PTR id);
     void OnClipboardUpdate(const fw::Message& message);
     fw::Reply OnInitMenuPopup(const fw::Message& message);
@@ -257,6 +260,7 @@ private:
     search::WinProcessStarter starter_;
     search::SearchTextEncoder encoder_;
 
+    NotificationIcon notificationIcon_;
     WinShell shell_;
     Docking docking_{shell_, *this, settings_};
     std::array<fw::Timer, 4> dockTimers_; // by identifier, from 1

@@ -171,8 +171,8 @@ void CMainFrame::DockingChanged() {
 }
 
 fw::Reply CMainFrame::Dispatch(const fw::Message& message) {
-    static const UINT taskBarCreated = ::RegisterWindowMessageW(L"TaskbarCreated");
-    if (message.id != taskBarCreated || !created_) return Window::Dispatch(message);
+    if (message.id != NotificationIcon::AreaCreatedMessage() || !created_) return Window::Dispatch(message);
+    notificationIcon_.OnAreaCreated();
     docking_.OnShellRestarted();
     return LRESULT{0};
 }

@@ -2,6 +2,7 @@
 #include "app/built_in_programs.h"
 #include "app/logic/menu_states.h"
 #include "app/logic/menu_texts.h"
+#include "app/logic/notification_icon_rules.h"
 #include "app/main_frame.h"
 #include "app/screen_saver.h"
 #include "framework/icons.h"
@@ -45,6 +46,19 @@ void CMainFrame::TrackFromOutside(HMENU menu) {
     ::SetForegroundWindow(Handle());
     Track(menu, TPM_RIGHTBUTTON, cursor);
     ::PostMessageW(Handle(), WM_NULL, 0, 0);
+}
+
+void CMainFrame::OnNotificationIcon(const fw::Message& message) {
+    switch (ActionOf(LOWORD(message.lparam), modalMessageOpen_)) {
+    case IconAction::kNone:
+        break;
+    case IconAction::kShowMenu:
+        TrackFromOutside(Popup(POPUP_MAIN));
+        break;
+    case IconAction::kShowBar:
+        ShowBarUnderCursor();
+        break;
+    }
 }
 
 void CMainFrame::NameMenusForThisWindows() {

@@ -5,8 +5,10 @@
 
 #include "framework/centred_message_box.h"
 #include "framework/windows_version.h"
+#include "tests/support/canvas.h"
 #include "tests/support/main_frame_fixture.h"
 #include "tests/support/message_box_answer.h"
+#include "tests/support/popups_opened.h"
 
 using namespace korvane;
 namespace keys = settings::keys;
@@ -47,6 +49,21 @@ protected:
             all += L"\n";
         }
         return all;
+    }
+    static DRAWITEMSTRUCT Drawing(const test::Canvas& canvas, UINT command) {
+        DRAWITEMSTRUCT item{};
+        item.CtlType = ODT_MENU;
+        item.itemID = command;
+        item.itemAction = ODA_DRAWENTIRE;
+        item.hDC = canvas.Dc();
+        item.rcItem = {0, 0, 40, 40};
+        return item;
+    }
+    bool ShowsImage(UINT command) {
+        const test::Canvas canvas{{40, 40}};
+        const DRAWITEMSTRUCT item = Drawing(canvas, command);
+        Send(WM_DRAWITEM, 0, reinterpret_cast<LPARAM>(&item));
+        return canvas.Pixels() != test::Canvas({40, 40}).Pixels();
     }
     void StoreLaunchItems(int count) {
         for (int number = 1; number <= count; ++number)
@@ -178,16 +195,57 @@ TEST_F(MenusTest, ItemsWithAnIconShowItAndOthersDoNot) {
     StoreLaunchItems(4);
     Bar().ShowFirst(SW_HIDE);
 
-    Open(::GetSubMenu(MainMenu(), 5));
-    Open(MainMenu());
-    Open(Bar().Popup(POPUP_SEARCH));
+    EXPECT_TRUE(ShowsImage(4028));
+    EXPECT_TRUE(ShowsImage(ID_LAUNCH_SETTINGS));
+    EXPECT_TRUE(ShowsImage(ID_SEARCH_SETTINGS));
+    EXPECT_TRUE(ShowsImage(ID_NOTEPAD));
+    EXPECT_FALSE(ShowsImage(4029)) << "there is no fifth item";
+    EXPECT_FALSE(ShowsImage(ID_EXIT));
+}
 
-    const HMENU launch = ::GetSubMenu(MainMenu(), 5);
-    EXPECT_NE(Item(launch, 4028, false).hbmpItem, nullptr);
-    EXPECT_NE(Item(launch, 4063, false).hbmpItem, nullptr);
+TEST_F(MenusTest, EveryPopUpThatHasImagesOpensWithThem) {
+    Bar().ShowFirst(SW_HIDE);
+
+    for (const HMENU popup : {MainMenu(), ::GetSubMenu(MainMenu(), 5), Bar().Popup(POPUP_SEARCH)}) Open(popup);
+
+    // Either the picture itself or the request to be asked for it.
     EXPECT_NE(Item(MainMenu(), ID_NOTEPAD, false).hbmpItem, nullptr);
-    EXPECT_NE(Item(Bar().Popup(POPUP_SEARCH), 5000, false).hbmpItem, nullptr);
-    EXPECT_EQ(Item(MainMenu(), ID_EXIT, false).hbmpItem, nullptr);
+    EXPECT_NE(Item(MainMenu(), ID_LAUNCH_SETTINGS, false).hbmpItem, nullptr);
+    EXPECT_NE(Item(Bar().Popup(POPUP_SEARCH), ID_SEARCH_SETTINGS, false).hbmpItem, nullptr);
+}
+
+TEST_F(MenusTest, TheImagesOfChildrenAreNotTakenForThoseOfMenus) {
+    const test::Canvas canvas{{40, 40}};
+    DRAWITEMSTRUCT item = Drawing(canvas, ID_NOTEPAD);
+    item.CtlType = ODT_BUTTON;
+
+    Send(WM_DRAWITEM, ID_NOTEPAD, reinterpret_cast<LPARAM>(&item));
+
+    EXPECT_EQ(canvas.Pixels(), test::Canvas({40, 40}).Pixels());
+}
+
+TEST_F(MenusTest, TheTaskMenuIsFilledEachTimeItOpens) {
+    const fw::UniqueHandle<HWND, &::DestroyWindow> task{::CreateWindowExW(0, L"STATIC", L"仕事 & 遊び",
+                                                                          WS_OVERLAPPEDWINDOW | WS_VISIBLE, 0, 0, 100,
+                                                                          100, nullptr, nullptr, nullptr, nullptr)};
+    const HMENU tasks = ::GetSubMenu(MainMenu(), 14);
+
+    Open(tasks);
+    const std::wstring with = Rows(tasks);
+    ::ShowWindow(task.Get(), SW_HIDE);
+    Open(tasks);
+
+    EXPECT_NE(with.find(L"仕事 && 遊び"), std::wstring::npos) << "the ampersand is shown, not taken for a key";
+    EXPECT_EQ(Rows(tasks).find(L"仕事"), std::wstring::npos);
+}
+
+TEST_F(MenusTest, WithoutATaskThereIsOneGreyedRow) {
+    const HMENU tasks = ::GetSubMenu(MainMenu(), 14);
+
+    Open(tasks);
+
+    EXPECT_EQ(Rows(tasks), std::wstring{L"4500 (表示すべきタスクがありません)\n"});
+    EXPECT_NE(Item(tasks, ID_NO_TASK, false).fState & MFS_GRAYED, 0U);
 }
 
 TEST_F(MenusTest, ALaunchItemWhoseProgramIsGoneIsReported) {
@@ -208,6 +266,30 @@ TEST_F(MenusTest, ACommandWithoutALaunchItemDoesNothing) {
     Send(WM_COMMAND, ID_LAUNCH_LAST);
 
     EXPECT_EQ(answer.Count(), 0);
+}
+
+TEST_F(MenusTest, TheIconInTheNotificationAreaOpensTheMainMenuUnlessABoxIsOpen) {
+    Bar();
+    // Taken by the menu's own loop, which it ends.
+    ::PostMessageW(Bar().Handle(), WM_CANCELMODE, 0, 0);
+    const test::PopupsOpened opened;
+
+    Send(WM_APP + 2, 1, WM_RBUTTONUP);
+
+    EXPECT_EQ(opened.First(), MainMenu());
+}
+
+TEST_F(MenusTest, TheIconInTheNotificationAreaIsDeafAfterARefusedQuestionUntilTheNextBox) {
+    Bar();
+    {
+        const test::MessageBoxAnswer answer{IDNO};
+        Send(WM_COMMAND, ID_SHUT_DOWN);
+    }
+    const test::PopupsOpened opened;
+
+    Send(WM_APP + 2, 1, WM_RBUTTONUP);
+
+    EXPECT_EQ(opened.First(), nullptr);
 }
 
 TEST_F(MenusTest, EndingTheSessionIsAskedWhateverTheSettingSays) {
