@@ -134,13 +134,15 @@ void MenuImages::GiveTo(HMENU popup) {
     const MenuImageStyle style = style_();
     ShareColumnWithCheckMarks(popup, style == MenuImageStyle::kBitmap);
 
-    std::vector<HBITMAP> images;
-    for (int at = 0; at < ::GetMenuItemCount(popup); ++at) images.push_back(ImageFor(ItemAt(popup, at)));
+    // Of a menu that is gone the count is -1.
+    const int count = std::max(::GetMenuItemCount(popup), 0);
+    std::vector<HBITMAP> images(static_cast<std::size_t>(count));
+    for (int at = 0; at < count; ++at) images[at] = ImageFor(ItemAt(popup, at));
     // One item with a cell and one without would differ in height, and a shortcut might stand on a longer text.
     const bool any = std::ranges::any_of(images, [](HBITMAP image) { return image != nullptr; });
     if (style == MenuImageStyle::kCallback) std::ranges::fill(images, any ? HBMMENU_CALLBACK : nullptr);
 
-    for (int at = 0; at < static_cast<int>(images.size()); ++at) GiveToItem(popup, at, images[at]);
+    for (int at = 0; at < count; ++at) GiveToItem(popup, at, images[at]);
 }
 
 HBITMAP MenuImages::ImageFor(const MENUITEMINFOW& item) {

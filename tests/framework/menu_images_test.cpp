@@ -16,6 +16,7 @@
 #include "tests/support/gdi_objects.h"
 #include "tests/support/icon_file.h"
 #include "tests/support/menu_owner.h"
+#include "tests/support/window_test.h"
 
 namespace fw {
 namespace {
@@ -35,17 +36,32 @@ TEST(MenuImageStyle, IsTheSystemsOnlyWhereItDrawsBitmapsRightInAVisualStyle) {
     EXPECT_EQ(MenuImageStyleFor(true, false), MenuImageStyle::kCallback);
 }
 
-TEST(MenuImageStyle, FollowsTheSystemThatTheProgramRunsOn) {
-    EXPECT_EQ(CurrentMenuImageStyle(), MenuImageStyleFor(IsWine(), VisualStylesActive()));
+// Wine has its own key in the registry, Windows has not.
+bool HasWineKey() {
+    HKEY key = nullptr;
+    const bool found = ::RegOpenKeyExW(HKEY_CURRENT_USER, L"Software\\Wine", 0, KEY_READ, &key) == ERROR_SUCCESS;
+    const UniqueKey owner{found ? key : nullptr};
+    return found;
 }
 
-// Wine has its own keys in the registry, Windows has not.
 TEST(Wine, IsToldFromWindows) {
-    HKEY key = nullptr;
-    const bool wine = ::RegOpenKeyExW(HKEY_CURRENT_USER, L"Software\\Wine", 0, KEY_READ, &key) == ERROR_SUCCESS;
-    const UniqueKey owner{key};
+    EXPECT_EQ(IsWine(), HasWineKey());
+}
 
-    EXPECT_EQ(IsWine(), wine);
+class VisualStylesTest : public korvane::test::WindowTest {};
+
+TEST_F(VisualStylesTest, AreActiveWhenAButtonHasOne) {
+    Theme button;
+    button.Open(Host(), L"BUTTON");
+
+    EXPECT_EQ(VisualStylesActive(), static_cast<bool>(button));
+}
+
+TEST_F(VisualStylesTest, LetTheSystemDrawMenuImagesUnlessItIsWine) {
+    Theme button;
+    button.Open(Host(), L"BUTTON");
+
+    EXPECT_EQ(CurrentMenuImageStyle() == MenuImageStyle::kBitmap, button && !HasWineKey());
 }
 
 TEST(MenuPixel, IsOpaqueWhereTheGroundDoesNotShow) {

@@ -15,6 +15,7 @@
 #include "launch/stored_line.h"
 #include "tests/launch/launch_items.h"
 #include "tests/support/gdi_objects.h"
+#include "tests/support/solid_icon.h"
 
 using namespace korvane;
 using namespace korvane::launch;
@@ -71,7 +72,7 @@ TEST_F(LaunchItemTest, LoadsAStoredLineWithItsIcon) {
     ASSERT_TRUE(item.Load(items.store, 3, true));
 
     EXPECT_EQ(Text(item), L"[C:\\a b\\p.exe][/x \"y\"][D:\\w][" + icon + L"][0][名前]");
-    EXPECT_EQ(items.ColourOf(item.Icon()), static_cast<COLORREF>(RGB(200, 10, 20)));
+    EXPECT_EQ(test::ColourOf(item.Icon()), static_cast<COLORREF>(RGB(200, 10, 20)));
 }
 
 TEST_F(LaunchItemTest, HasASmallIcon) {
@@ -125,7 +126,7 @@ TEST_F(LaunchItemTest, FindsTheFilesOfADefaultOnTheSearchPath) {
 
     const std::wstring file = items.folder.File(L"msconfig.exe");
     EXPECT_EQ(Text(item), L"[" + file + L"][][][" + file + L"][0][システム構成 ユーティリティ]");
-    EXPECT_EQ(items.ColourOf(item.Icon()), static_cast<COLORREF>(RGB(1, 2, 3)));
+    EXPECT_EQ(test::ColourOf(item.Icon()), static_cast<COLORREF>(RGB(1, 2, 3)));
 }
 
 TEST_F(LaunchItemTest, DoesNotSearchForTheFilesOfAStoredItem) {
@@ -248,7 +249,7 @@ TEST_F(LaunchItemTest, IsSetWithAnIcon) {
     item.Set(L"p", L"a", L"f", L"n", icon, 0);
 
     EXPECT_EQ(Text(item), L"[p][a][f][" + icon + L"][0][n]");
-    EXPECT_EQ(items.ColourOf(item.Icon()), static_cast<COLORREF>(RGB(1, 200, 1)));
+    EXPECT_EQ(test::ColourOf(item.Icon()), static_cast<COLORREF>(RGB(1, 200, 1)));
 }
 
 TEST_F(LaunchItemTest, KeepsItsIconWhenItIsSetWithoutAnIconFile) {
@@ -287,8 +288,8 @@ TEST_F(LaunchItemTest, GivesACopyAnIconOfItsOwn) {
     EXPECT_EQ(Text(assigned), Text(item));
     EXPECT_NE(copy.Icon(), item.Icon());
     EXPECT_NE(assigned.Icon(), item.Icon());
-    EXPECT_EQ(items.ColourOf(copy.Icon()), items.ColourOfItem(4));
-    EXPECT_EQ(items.ColourOf(assigned.Icon()), items.ColourOfItem(4));
+    EXPECT_EQ(test::ColourOf(copy.Icon()), items.ColourOfItem(4));
+    EXPECT_EQ(test::ColourOf(assigned.Icon()), items.ColourOfItem(4));
 }
 
 TEST_F(LaunchItemTest, LeavesACopyWithoutAnIconWhoseFileIsGone) {
@@ -381,7 +382,7 @@ TEST_F(LaunchItemTest, ListsThirtyEightItemsAndNeverAThirtyNinth) {
     for (int number = 1; number <= 38; ++number) {
         const CLaunchItem& item = list[static_cast<std::size_t>(number - 1)];
         EXPECT_EQ(item.Name(), L"n" + std::to_wstring(number));
-        EXPECT_EQ(items.ColourOf(item.Icon()), items.ColourOfItem(number)) << number;
+        EXPECT_EQ(test::ColourOf(item.Icon()), items.ColourOfItem(number)) << number;
     }
 }
 

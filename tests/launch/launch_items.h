@@ -7,7 +7,6 @@
 
 #include "base/format_text.h"
 #include "settings/logic/setting_keys.h"
-#include "tests/support/canvas.h"
 #include "tests/support/fake_store.h"
 #include "tests/support/icon_file.h"
 #include "tests/support/temp_folder.h"
@@ -37,13 +36,6 @@ public:
         return folder.File(name);
     }
     [[nodiscard]] static COLORREF ColourOfItem(int number) { return RGB(number * 6, 255 - number, 7); }
-
-    // The colour that an icon paints on the canvas' own; the canvas' own where there is no icon.
-    [[nodiscard]] static COLORREF ColourOf(HICON icon) {
-        const Canvas canvas{{kTestIconSidePx, kTestIconSidePx}};
-        if (icon) ::DrawIconEx(canvas.Dc(), 0, 0, icon, kTestIconSidePx, kTestIconSidePx, 0, nullptr, DI_NORMAL);
-        return canvas.Pixel(kTestIconSidePx / 2, kTestIconSidePx / 2);
-    }
 };
 
 } // namespace korvane::test
