@@ -14,6 +14,7 @@
 #include "framework/scoped_flag.h"
 #include "framework/string_table.h"
 #include "framework/windows_version.h"
+#include "launch/launch_menu.h"
 #include "search/code_pages.h"
 #include "search/logic/command_selection.h"
 #include "settings/logic/data_folder_path.h"
@@ -30,14 +31,16 @@ namespace {
 constexpr const wchar_t* kCommandIconFile = L"shell32.dll";
 constexpr int kCommandIconIndex = 24;
 
-// In the main menu, where separators count too.
-constexpr int kLaunchMenuPosition = 5;
+// Beside the timers of docking.
+constexpr UINT_PTR kClipboardTimer = 5;
 
 } // namespace
 
 CMainFrame::CMainFrame(fw::MessageLoop& loop, const HelpSession& help, FramePlaces places)
     : loop_{loop}, help_{help}, places_{std::move(places)}, settings_{HKEY_CURRENT_USER, places_.settingsKey},
-      controls_{*this}, encoder_{search::WindowsTextEncoder()} {}
+      controls_{*this}, encoder_{search::WindowsTextEncoder()},
+      clipboard_{kClipboardTimer, [this] { return clipboardMonitored_ && !controls_.searchBox.Composing(); },
+                 [this](const std::wstring& text) { controls_.searchBox.SetText(text); }} {}
 
 CMainFrame::~CMainFrame() = default;
 
@@ -45,8 +48,12 @@ void CMainFrame::ShowFirst(int showCommand) {
     // A docked bar is neither minimised nor maximised, whatever its shortcut asks for.
     ::ShowWindow(Handle(), docking_.Docked() ? SW_SHOW : showCommand);
     ::UpdateWindow(Handle());
-    // The children too, before the loop takes up what could wait until the bar is to be seen.
+    // The children too, before what could wait until the bar is to be seen.
     ::RedrawWindow(Handle(), nullptr, nullptr, RDW_UPDATENOW | RDW_ALLCHILDREN);
+    notificationIcon_.Add(Handle(), smallIcon_.Get());
+    clipboard_.Start(Handle());
+    launch::BuildLaunchMenu(menus_, settings_);
+    GreyUnbuilt();
 }
 
 int CMainFrame::OnCreate(const CREATESTRUCTW&) {
@@ -96,16 +103,17 @@ void CMainFrame::RegisterHotKeys() {
 bool CMainFrame::CreateChildren() {
     const HINSTANCE instance = ::GetModuleHandleW(nullptr);
     barFont_ = MakeBarFont(fw::IsWindowsAtLeast(fw::kWindows8));
-    menu_.Reset(::LoadMenuW(instance, MAKEINTRESOURCEW(IDM_BAR)));
     accelerators_.Reset(::LoadAcceleratorsW(instance, MAKEINTRESOURCEW(IDA_BAR)));
     commandIcon_ = fw::ExtractSmallIcon(kCommandIconFile, kCommandIconIndex);
     ReadColours();
     layout_ = LayoutForClient();
-    if (!menu_ || !controls_.Create(Handle(), barFont_.Get(), layout_)) {
+    if (!menus_.Create() || !controls_.Create(Handle(), barFont_.Get(), layout_)) {
         creationError_ = ::GetLastError();
         return false;
     }
     lastFocus_ = controls_.commandBox.Handle();
+    NameMenusForThisWindows();
+    AddMenuImages();
     return true;
 }
 
@@ -129,10 +137,15 @@ void CMainFrame::ApplySettings() {
     ReadColours();
     ApplyColour();
     controls_.clock.SetFormat(controls::ClockFormatOf(settings_.Read(keys::TimeBarClockFormat)));
+    clipboardMonitored_ = settings_.Read(keys::MonitorClipBoard) > 0;
+    taskNameChoice_ = settings_.Read(keys::TaskMenuAppName);
     clockShown_ = settings_.Read(keys::ShowTimeBarClock) > 0;
     controls_.ShowClock(clockShown_);
     controls_.ReloadLaunchButtons(settings_);
     BuildSearchCommandMenu();
+    // The first time it can wait until the bar is to be seen.
+    if (created_) launch::BuildLaunchMenu(menus_, settings_);
+    GreyUnbuilt();
     docking_.ApplyMode(created_ ? ShowAtEnd::kYes : ShowAtEnd::kNo);
 }
 
@@ -198,10 +211,12 @@ void CMainFrame::SaveState() {
 }
 
 void CMainFrame::OnDestroy() {
+    notificationIcon_.Remove();
     help_.CloseWindows();
     filter_.Reset();
     showBarKey_.Unregister();
     launchMenuKey_.Unregister();
+    clipboard_.Stop();
     // A creation that fails late has no closing before it.
     docking_.Leave();
     // A frame that was never there does not end the loop: the message would close the box that reports the failure.
@@ -217,6 +232,17 @@ fw::Reply CMainFrame::OnSize(UINT kind, SIZE client) {
 fw::Reply CMainFrame::OnMove(const fw::Message&) {
     if (::IsWindowVisible(Handle())) RememberWindowRect();
     return fw::kPassOn;
+}
+
+fw::Reply CMainFrame::OnTimer(UINT_PTR id) {
+    if (clipboard_.OnTimer(id)) return LRESULT{0};
+    if (id < 1 || id > dockTimers_.size()) return fw::kPassOn;
+    docking_.OnTimer(static_cast<DockTimer>(id));
+    return LRESULT{0};
+}
+
+void CMainFrame::OnClipboardUpdate(const fw::Message&) {
+    clipboard_.OnUpdate();
 }
 
 void CMainFrame::OnGetMinMaxInfo(MINMAXINFO& info) {
@@ -288,34 +314,17 @@ fw::Reply CMainFrame::OnControlCommand(const fw::Message& message) {
 }
 
 fw::Reply CMainFrame::OnDrawItem(const fw::Message& message) {
-    return Reflect(message);
+    const fw::Reply menuItem = menus_.OnDrawItem(*reinterpret_cast<const DRAWITEMSTRUCT*>(message.lparam));
+    return menuItem ? menuItem : Reflect(message);
 }
 
 fw::Reply CMainFrame::OnNotify(const fw::Message& message) {
     return Reflect(message);
 }
 
-HMENU CMainFrame::Popup(int position) const {
-    return ::GetSubMenu(menu_.Get(), position);
-}
-
-UINT CMainFrame::TrackPopup(int position, UINT flags, POINT at) {
-    return Track(Popup(position), flags, at);
-}
-
-UINT CMainFrame::Track(HMENU menu, UINT flags, POINT at) {
-    const fw::ScopedFlag busy{inputBusy_};
-    return static_cast<UINT>(::TrackPopupMenuEx(menu, flags, at.x, at.y, Handle(), nullptr));
-}
-
 void CMainFrame::OnHotKey(int id) {
     if (id == HOTKEY_SHOW_BAR) ShowBarUnderCursor();
-    if (id != HOTKEY_LAUNCH_MENU || modalMessageOpen_ || inputBusy_) return;
-    POINT cursor{};
-    ::GetCursorPos(&cursor);
-    // A menu of a window that is not in the foreground would not close when the user clicks elsewhere.
-    ::SetForegroundWindow(Handle());
-    Track(::GetSubMenu(Popup(POPUP_MAIN), kLaunchMenuPosition), TPM_RIGHTBUTTON, cursor);
+    if (id == HOTKEY_LAUNCH_MENU && !modalMessageOpen_) TrackFromOutside(launch::LaunchPopup(menus_));
 }
 
 bool CMainFrame::PreTranslate(const MSG& message) {

@@ -8,10 +8,13 @@
 #include <string>
 
 #include "app/bar_controls.h"
+#include "app/clipboard_monitor.h"
 #include "app/help_session.h"
 #include "app/logic/bar_layout.h"
 #include "app/logic/docked_window.h"
 #include "app/logic/docking.h"
+#include "app/notification_icon.h"
+#include "app/task_list.h"
 #include "app/win_shell.h"
 #include "base/colour.h"
 #include "base/geometry.h"
@@ -22,6 +25,7 @@
 #include "framework/message_loop.h"
 #include "framework/timer.h"
 #include "framework/window.h"
+#include "launch/app_menu_bar.h"
 #include "res/ids.h"
 #include "search/drop_down_dialog.h"
 #include "search/logic/execute_search.h"
@@ -61,7 +65,11 @@ public:
             fw::On<WM_WINDOWPOSCHANGED>(&CMainFrame::OnPlaceChanged),
             fw::On<WM_DISPLAYCHANGE>(&CMainFrame::OnDisplayChange),
             fw::On<kShellMessage>(&CMainFrame::OnShellEvent),
+            fw::On<NotificationIcon::kMessage>(&CMainFrame::OnNotificationIcon),
             fw::On<WM_TIMER>(&CMainFrame::OnTimer),
+            fw::On<WM_CLIPBOARDUPDATE>(&CMainFrame::OnClipboardUpdate),
+            fw::On<WM_INITMENUPOPUP>(&CMainFrame::OnInitMenuPopup),
+            fw::On<WM_MEASUREITEM>(&CMainFrame::OnMeasureItem),
             fw::On<WM_GETMINMAXINFO>(&CMainFrame::OnGetMinMaxInfo),
             fw::On<WM_NCHITTEST>(&CMainFrame::OnHitTest),
             fw::On<WM_ERASEBKGND>(&CMainFrame::OnEraseBackground),
@@ -145,7 +153,11 @@ private:
     fw::Reply OnPlaceChanged(const fw::Message& message);
     void OnDisplayChange(UINT bitsPerPixel, SIZE screen);
     void OnShellEvent(const fw::Message& message);
+    void OnNotificationIcon(const fw::Message& message);
     fw::Reply OnTimer(UINT_PTR id);
+    void OnClipboardUpdate(const fw::Message& message);
+    fw::Reply OnInitMenuPopup(const fw::Message& message);
+    fw::Reply OnMeasureItem(MEASUREITEMSTRUCT& item);
     void OnGetMinMaxInfo(MINMAXINFO& info);
     LRESULT OnHitTest(const fw::Message& message);
     bool OnEraseBackground(HDC dc);
@@ -177,11 +189,25 @@ private:
     [[nodiscard]] base::Size Borders() const;
     void RememberWindowRect();
 
+    // Menus.
+    void NameMenusForThisWindows();
+    void AddMenuImages();
+    void RefreshMenuStates();
+    void BuildTaskMenu(HMENU popup);
+    // Greys what there is nothing behind yet.
+    void GreyUnbuilt();
     // Shows a menu at a point of the screen; gives the chosen command, or 0.
     UINT Track(HMENU menu, UINT flags, POINT at);
+    // The same when the user did not come from the bar itself.
+    void TrackFromOutside(HMENU menu);
 
     // Commands.
     void ShowBarUnderCursor();
+    void RunLaunchItem(UINT command);
+    void RunProgram(UINT command);
+    // Tells what went wrong when the shell's result says that something did.
+    void ReportStart(INT_PTR result, fw::Centring centring);
+    void ToggleClipboardMonitor();
     void ToggleAutoHide();
     void ToggleTopmost();
     void ReturnFocusTo(search::Box box);
@@ -209,7 +235,7 @@ private:
     FramePlaces places_;
     fw::MessageLoop::Registration filter_;
     fw::UniqueHandle<HACCEL, &::DestroyAcceleratorTable> accelerators_;
-    fw::UniqueMenu menu_;
+    launch::CAppMenuBar menus_;
     fw::HotKey showBarKey_;
     fw::HotKey launchMenuKey_;
 
@@ -234,11 +260,17 @@ private:
     search::WinProcessStarter starter_;
     search::SearchTextEncoder encoder_;
 
+    NotificationIcon notificationIcon_;
     WinShell shell_;
     Docking docking_{shell_, *this, settings_};
     std::array<fw::Timer, 4> dockTimers_; // by identifier, from 1
     bool wasActive_ = false;              // before it was hidden
     bool narrowReported_ = false;
+
+    ClipboardMonitor clipboard_;
+    bool clipboardMonitored_ = false;
+    TaskList tasks_;
+    int taskNameChoice_ = 0;
 
     bool clockShown_ = false;
     HWND lastFocus_ = nullptr;

@@ -1,12 +1,16 @@
 // What the frame does when a command arrives.
 #include <variant>
 
+#include "app/built_in_programs.h"
 #include "app/logic/command_routes.h"
 #include "app/main_frame.h"
+#include "app/screen_saver.h"
+#include "app/session_end.h"
 #include "framework/gdi.h"
 #include "framework/scoped_flag.h"
 #include "framework/string_table.h"
 #include "launch/command_entries.h"
+#include "launch/launch_menu.h"
 #include "search/logic/typed_command.h"
 #include "search/path_pickers.h"
 #include "settings/logic/setting_keys.h"
@@ -14,6 +18,7 @@
 namespace korvane::app {
 
 using search::Box;
+namespace keys = settings::keys;
 
 fw::Reply CMainFrame::OnCommand(UINT command) {
     const std::optional<Route> route = RouteOf(command);
@@ -47,6 +52,24 @@ fw::Reply CMainFrame::OnCommand(UINT command) {
         break;
     case Route::kChooseSearch:
         ChooseSearchCommand(command);
+        break;
+    case Route::kRunProgram:
+        RunProgram(command);
+        break;
+    case Route::kRunLaunchItem:
+        RunLaunchItem(command);
+        break;
+    case Route::kEndSession:
+        EndWindowsSession(command, Handle(), modalMessageOpen_);
+        break;
+    case Route::kSwitchTask:
+        tasks_.SwitchTo(command);
+        break;
+    case Route::kToggleClipboardMonitor:
+        ToggleClipboardMonitor();
+        break;
+    case Route::kStartScreenSaver:
+        StartScreenSaver();
         break;
     case Route::kToggleMode:
         docking_.ToggleMode();
@@ -83,10 +106,27 @@ void CMainFrame::RunTypedCommand() {
 }
 
 void CMainFrame::RunEntry(UINT command) {
-    const INT_PTR result = launch::RunCommandEntry(launch::LoadCommandEntry(command, settings_));
+    ReportStart(launch::RunCommandEntry(launch::LoadCommandEntry(command, settings_)), fw::Centring::kNone);
+}
+
+void CMainFrame::RunLaunchItem(UINT command) {
+    if (const auto result = launch::RunLaunchItem(command, settings_)) ReportStart(*result, fw::Centring::kNone);
+}
+
+void CMainFrame::RunProgram(UINT command) {
+    ReportStart(RunBuiltInProgram(command), fw::Centring::kOnOwner);
+}
+
+void CMainFrame::ReportStart(INT_PTR result, fw::Centring centring) {
     constexpr INT_PTR kLastFailure = 32;
     // The shell's result is shown as a system error code on purpose, also where the two numberings differ.
-    if (result <= kLastFailure) ReportError(static_cast<DWORD>(result), fw::Centring::kNone);
+    if (result <= kLastFailure) ReportError(static_cast<DWORD>(result), centring);
+}
+
+void CMainFrame::ToggleClipboardMonitor() {
+    clipboardMonitored_ = !clipboardMonitored_;
+    settings_.Write(keys::MonitorClipBoard, clipboardMonitored_ ? 1 : 0);
+    RefreshMenuStates();
 }
 
 void CMainFrame::OpenHistory(UINT command) {
@@ -168,8 +208,6 @@ void CMainFrame::BuildSearchCommandMenu() {
         const UINT state = row.IsSeparator() ? MF_SEPARATOR : MF_STRING;
         ::AppendMenuW(menu, state, static_cast<UINT_PTR>(row.id), row.text.c_str());
     }
-    // There is no dialog behind it yet.
-    ::EnableMenuItem(menu, ID_SEARCH_SETTINGS, MF_BYCOMMAND | MF_GRAYED);
     MakeCurrent(search::SearchCommandId{plan.current.id}, plan.current.text);
 }
 

@@ -171,15 +171,9 @@ void CMainFrame::DockingChanged() {
 }
 
 fw::Reply CMainFrame::Dispatch(const fw::Message& message) {
-    static const UINT taskBarCreated = ::RegisterWindowMessageW(L"TaskbarCreated");
-    if (message.id != taskBarCreated || !created_) return Window::Dispatch(message);
+    if (message.id != NotificationIcon::AreaCreatedMessage() || !created_) return Window::Dispatch(message);
+    notificationIcon_.OnAreaCreated();
     docking_.OnShellRestarted();
-    return LRESULT{0};
-}
-
-fw::Reply CMainFrame::OnTimer(UINT_PTR id) {
-    if (id < 1 || id > dockTimers_.size()) return fw::kPassOn;
-    docking_.OnTimer(static_cast<DockTimer>(id));
     return LRESULT{0};
 }
 

@@ -13,6 +13,8 @@ say "Start, memory and idle processor time: median of $runs starts each, in turn
 wine "$build/benchmarks/measure.exe" "$runs" "$idle" "$bare" BareWindow_WndClass "$bar" Korvane_WndClass
 say 'Writing a search text into an address: median of 11 runs each'
 wine "$build/benchmarks/encode_bench.exe"
+say 'Building and showing the longest menus: 50 openings each, in turns'
+wine "$build/benchmarks/menu_bench.exe"
 
 say 'Docked and hiding: 20 slides each way, then idle'
 key='HKCU\Software\Dunmere Software\Korvane\Settings'

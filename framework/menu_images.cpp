@@ -4,6 +4,7 @@
 #include <cstdint>
 #include <span>
 #include <utility>
+#include <vector>
 
 #include "framework/gdi.h"
 #include "framework/menu_pixels.h"
@@ -79,8 +80,33 @@ bool IsSystemImage(HBITMAP image) {
     return number > 0 && number <= reinterpret_cast<std::intptr_t>(HBMMENU_POPUP_MINIMIZE);
 }
 
-constexpr bool IsGreyed(UINT state) {
-    return (state & (MF_GRAYED | MF_DISABLED)) != 0;
+// With a column for the check marks beside that of the images, a menu in the visual style would be wider than all
+// others. Wine gives no room to images that share one.
+void ShareColumnWithCheckMarks(HMENU popup, bool share) {
+    MENUINFO menu{};
+    menu.cbSize = sizeof menu;
+    menu.fMask = MIM_STYLE;
+    if (!::GetMenuInfo(popup, &menu)) return;
+    const DWORD style = share ? menu.dwStyle | MNS_CHECKORBMP : menu.dwStyle & ~DWORD{MNS_CHECKORBMP};
+    if (style == menu.dwStyle) return;
+    menu.dwStyle = style;
+    ::SetMenuInfo(popup, &menu);
+}
+
+MENUITEMINFOW ItemAt(HMENU popup, int position) {
+    MENUITEMINFOW item{};
+    item.cbSize = sizeof item;
+    item.fMask = MIIM_ID | MIIM_SUBMENU | MIIM_FTYPE | MIIM_STATE | MIIM_BITMAP;
+    ::GetMenuItemInfoW(popup, static_cast<UINT>(position), TRUE, &item);
+    return item;
+}
+
+void GiveToItem(HMENU popup, int position, HBITMAP image) {
+    MENUITEMINFOW item = ItemAt(popup, position);
+    if ((item.fType & MFT_SEPARATOR) != 0 || IsSystemImage(item.hbmpItem) || item.hbmpItem == image) return;
+    item.fMask = MIIM_BITMAP;
+    item.hbmpItem = image;
+    ::SetMenuItemInfoW(popup, static_cast<UINT>(position), TRUE, &item);
 }
 
 } // namespace
@@ -105,32 +131,21 @@ void MenuImages::Remove(UINT command) {
 }
 
 void MenuImages::GiveTo(HMENU popup) {
-    // Without this the check marks would have a column of their own beside that of the images.
-    MENUINFO menu{};
-    menu.cbSize = sizeof menu;
-    menu.fMask = MIM_STYLE;
-    if (!::GetMenuInfo(popup, &menu)) return;
-    menu.dwStyle |= MNS_CHECKORBMP;
-    ::SetMenuInfo(popup, &menu);
-
     const MenuImageStyle style = style_();
-    const int count = ::GetMenuItemCount(popup);
-    for (int position = 0; position < count; ++position) GiveToItem(popup, static_cast<UINT>(position), style);
+    ShareColumnWithCheckMarks(popup, style == MenuImageStyle::kBitmap);
+
+    std::vector<HBITMAP> images;
+    for (int at = 0; at < ::GetMenuItemCount(popup); ++at) images.push_back(ImageFor(ItemAt(popup, at)));
+    // One item with a cell and one without would differ in height, and a shortcut might stand on a longer text.
+    const bool any = std::ranges::any_of(images, [](HBITMAP image) { return image != nullptr; });
+    if (style == MenuImageStyle::kCallback) std::ranges::fill(images, any ? HBMMENU_CALLBACK : nullptr);
+
+    for (int at = 0; at < static_cast<int>(images.size()); ++at) GiveToItem(popup, at, images[at]);
 }
 
-void MenuImages::GiveToItem(HMENU popup, UINT position, MenuImageStyle style) {
-    MENUITEMINFOW item{};
-    item.cbSize = sizeof item;
-    item.fMask = MIIM_ID | MIIM_SUBMENU | MIIM_FTYPE | MIIM_STATE | MIIM_BITMAP;
-    if (!::GetMenuItemInfoW(popup, position, TRUE, &item)) return;
-    if (item.hSubMenu || (item.fType & MFT_SEPARATOR) != 0 || IsSystemImage(item.hbmpItem)) return;
-
-    HBITMAP image = BitmapOf(item.wID, IsGreyed(item.fState));
-    if (image && style == MenuImageStyle::kCallback) image = HBMMENU_CALLBACK;
-    if (image == item.hbmpItem) return;
-    item.fMask = MIIM_BITMAP;
-    item.hbmpItem = image;
-    ::SetMenuItemInfoW(popup, position, TRUE, &item);
+HBITMAP MenuImages::ImageFor(const MENUITEMINFOW& item) {
+    if (item.hSubMenu || (item.fType & MFT_SEPARATOR) != 0) return nullptr;
+    return BitmapOf(item.wID, (item.fState & (MF_GRAYED | MF_DISABLED)) != 0);
 }
 
 HBITMAP MenuImages::BitmapOf(UINT command, bool greyed) {
@@ -144,7 +159,7 @@ HBITMAP MenuImages::BitmapOf(UINT command, bool greyed) {
 }
 
 Reply MenuImages::Measure(MEASUREITEMSTRUCT& item) const {
-    if (item.CtlType != ODT_MENU || !images_.contains(item.itemID)) return kPassOn;
+    if (item.CtlType != ODT_MENU) return kPassOn;
     item.itemWidth = static_cast<UINT>(cell_.width);
     item.itemHeight = static_cast<UINT>(cell_.height);
     return LRESULT{TRUE};
@@ -153,7 +168,7 @@ Reply MenuImages::Measure(MEASUREITEMSTRUCT& item) const {
 Reply MenuImages::Draw(const DRAWITEMSTRUCT& item) {
     if (item.CtlType != ODT_MENU) return kPassOn;
     const HBITMAP image = BitmapOf(item.itemID, (item.itemState & (ODS_GRAYED | ODS_DISABLED)) != 0);
-    if (!image) return kPassOn;
+    if (!image) return LRESULT{TRUE};
     const UniqueMemoryDc source{::CreateCompatibleDC(item.hDC)};
     const SelectedObject selected{source.Get(), image};
     const Rect at = korvane::base::Centred(FromWindows(item.rcItem), {imagePx_, imagePx_});

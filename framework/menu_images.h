@@ -27,8 +27,8 @@ enum class MenuImageStyle {
 [[nodiscard]] MenuImageStyle CurrentMenuImageStyle();
 
 // One image for each command, shown beside it in every menu. The texts stay the system's in either style, and with them
-// the characters to choose an item by. The window that owns the menus hands on three messages; an item whose command
-// has no image is left alone, and so is one that opens a pop-up.
+// the characters to choose an item by. The window that owns the menus hands on three messages; nothing else of its
+// menus may be drawn by it.
 class MenuImages {
 public:
     // Asked when the item is first shown, and only then; it may find that there is no icon.
@@ -43,10 +43,10 @@ public:
     // Menus that show the image must have lost it, or be asked for anew, before they are shown again.
     void Remove(UINT command);
 
-    // WM_INITMENUPOPUP, once the items and their states are what they will be: greyed items get a dimmed image. An
-    // item's check mark takes the place of its image.
+    // WM_INITMENUPOPUP, once the items and their states are what they will be: greyed items get a dimmed image. Check
+    // marks stay; a bitmap makes room for one. What opens a pop-up has no image, nor has a separator.
     void GiveTo(HMENU popup);
-    // WM_MEASUREITEM and WM_DRAWITEM. Empty for what is not an image of a menu.
+    // WM_MEASUREITEM and WM_DRAWITEM. Empty for what is not a menu's.
     [[nodiscard]] Reply Measure(MEASUREITEMSTRUCT& item) const;
     [[nodiscard]] Reply Draw(const DRAWITEMSTRUCT& item);
 
@@ -57,8 +57,8 @@ private:
         UniqueBitmap dimmed; // made when first needed
     };
 
-    void GiveToItem(HMENU popup, UINT position, MenuImageStyle style);
-    // Null when the command has no image.
+    // Null when there is none.
+    [[nodiscard]] HBITMAP ImageFor(const MENUITEMINFOW& item);
     [[nodiscard]] HBITMAP BitmapOf(UINT command, bool greyed);
 
     int imagePx_;

@@ -8,18 +8,21 @@
 namespace korvane::launch {
 namespace {
 
-// Pixels. An image is a square; where the program draws it, it stands in the middle of a square as large as a button.
+// Pixels. Where the program draws an image, it stands in the middle of a square as large as a button; the menu itself
+// adds one pixel above and one below.
 constexpr int kImageSidePx = 16;
 constexpr int kButtonSidePx = 22;
+constexpr int kMenuAddsPx = 2;
 
-base::Size ButtonSize() {
-    return {fw::Scale()(kButtonSidePx), fw::Scale()(kButtonSidePx)};
+base::Size Cell() {
+    const int side = fw::Scale()(kButtonSidePx);
+    return {side, side - kMenuAddsPx};
 }
 
 } // namespace
 
 CAppMenuBar::CAppMenuBar(std::function<fw::MenuImageStyle()> style)
-    : images_{fw::Scale()(kImageSidePx), ButtonSize(), std::move(style)} {}
+    : images_{fw::Scale()(kImageSidePx), Cell(), std::move(style)} {}
 
 bool CAppMenuBar::Create() {
     menu_.Reset(::LoadMenuW(::GetModuleHandleW(nullptr), MAKEINTRESOURCEW(IDM_BAR)));

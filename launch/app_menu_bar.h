@@ -34,7 +34,7 @@ public:
 
     // After the owner has brought the pop-up's items and their states up to date.
     void OnInitMenuPopup(HMENU popup) { images_.GiveTo(popup); }
-    // Empty for what is none of the menus' images.
+    // Empty for what is not a menu's.
     [[nodiscard]] fw::Reply OnMeasureItem(MEASUREITEMSTRUCT& item) const { return images_.Measure(item); }
     [[nodiscard]] fw::Reply OnDrawItem(const DRAWITEMSTRUCT& item) { return images_.Draw(item); }
 

@@ -117,6 +117,27 @@ protected:
         return item;
     }
     [[nodiscard]] HBITMAP ImageOf(UINT command) const { return Item(command).hbmpItem; }
+    [[nodiscard]] HBITMAP ImageAt(UINT position) const {
+        MENUITEMINFOW item{};
+        item.cbSize = sizeof item;
+        item.fMask = MIIM_BITMAP;
+        EXPECT_TRUE(::GetMenuItemInfoW(menu.Get(), position, TRUE, &item));
+        return item.hbmpItem;
+    }
+    void SetMenuStyle(DWORD menuStyle) const {
+        MENUINFO info{};
+        info.cbSize = sizeof info;
+        info.fMask = MIM_STYLE;
+        info.dwStyle = menuStyle;
+        EXPECT_TRUE(::SetMenuInfo(menu.Get(), &info));
+    }
+    [[nodiscard]] DWORD MenuStyle() const {
+        MENUINFO info{};
+        info.cbSize = sizeof info;
+        info.fMask = MIM_STYLE;
+        EXPECT_TRUE(::GetMenuInfo(menu.Get(), &info));
+        return info.dwStyle;
+    }
     [[nodiscard]] static std::vector<std::uint32_t> PixelsOf(HBITMAP bitmap) {
         DIBSECTION section{};
         if (::GetObjectW(bitmap, sizeof section, &section) != sizeof section) return {};
@@ -227,36 +248,52 @@ TEST_F(MenuImagesTest, FollowsAStyleThatChangesBetweenTwoOpenings) {
     EXPECT_EQ(PixelsOf(ImageOf(kFirst)).at(0), 0xFFFF0000U);
 }
 
-TEST_F(MenuImagesTest, LetsACheckMarkTakeTheImagesPlace) {
-    Append(kFirst, MF_CHECKED);
-    Append(kFirst + 1);
-    ::CheckMenuRadioItem(menu.Get(), kFirst + 1, kFirst + 1, kFirst + 1, MF_BYCOMMAND);
-    images.Set(kFirst, AlphaIcon(0xFFFF0000).Get());
-    images.Set(kFirst + 1, AlphaIcon(0xFFFF0000).Get());
+TEST_F(MenuImagesTest, KeepsCheckMarksAndRadioMarks) {
+    for (const MenuImageStyle each : {MenuImageStyle::kBitmap, MenuImageStyle::kCallback}) {
+        style = each;
+        Append(kFirst, MF_CHECKED);
+        Append(kFirst + 1);
+        ::CheckMenuRadioItem(menu.Get(), kFirst + 1, kFirst + 1, kFirst + 1, MF_BYCOMMAND);
+        images.Set(kFirst, AlphaIcon(0xFFFF0000).Get());
+        images.Set(kFirst + 1, AlphaIcon(0xFFFF0000).Get());
 
-    images.GiveTo(menu.Get());
+        images.GiveTo(menu.Get());
 
-    EXPECT_NE(Item(kFirst).fState & MFS_CHECKED, 0U);
-    EXPECT_NE(Item(kFirst + 1).fState & MFS_CHECKED, 0U);
-    EXPECT_NE(Item(kFirst + 1).fType & MFT_RADIOCHECK, 0U);
-    MENUINFO info{};
-    info.cbSize = sizeof info;
-    info.fMask = MIM_STYLE;
-    ::GetMenuInfo(menu.Get(), &info);
-    EXPECT_NE(info.dwStyle & MNS_CHECKORBMP, 0U);
+        EXPECT_NE(Item(kFirst).fState & MFS_CHECKED, 0U);
+        EXPECT_NE(Item(kFirst + 1).fState & MFS_CHECKED, 0U);
+        EXPECT_NE(Item(kFirst + 1).fType & MFT_RADIOCHECK, 0U);
+    }
 }
 
-TEST_F(MenuImagesTest, KeepsTheOtherStylesOfThePopup) {
-    MENUINFO info{};
-    info.cbSize = sizeof info;
-    info.fMask = MIM_STYLE;
-    info.dwStyle = MNS_AUTODISMISS;
-    ::SetMenuInfo(menu.Get(), &info);
+TEST_F(MenuImagesTest, LetsACheckMarkTakeABitmapsPlaceAndKeepsTheOtherStylesOfThePopup) {
+    SetMenuStyle(MNS_AUTODISMISS);
 
     images.GiveTo(menu.Get());
+    EXPECT_EQ(MenuStyle(), DWORD{MNS_AUTODISMISS | MNS_CHECKORBMP});
 
-    ::GetMenuInfo(menu.Get(), &info);
-    EXPECT_EQ(info.dwStyle, static_cast<DWORD>(MNS_AUTODISMISS | MNS_CHECKORBMP));
+    style = MenuImageStyle::kCallback;
+    images.GiveTo(menu.Get());
+    EXPECT_EQ(MenuStyle(), DWORD{MNS_AUTODISMISS});
+}
+
+TEST_F(MenuImagesTest, GivesEveryItemACellWhereOneHasAnImageThatTheOwnerDraws) {
+    style = MenuImageStyle::kCallback;
+    Append(kFirst);
+    Append(kFirst + 1);
+    const HMENU inner = ::CreatePopupMenu();
+    ::AppendMenuW(menu.Get(), MF_POPUP, reinterpret_cast<UINT_PTR>(inner), L"inner");
+    ::AppendMenuW(menu.Get(), MF_SEPARATOR, 0, nullptr);
+    images.Set(kFirst, AlphaIcon(0xFFFF0000).Get());
+
+    images.GiveTo(menu.Get());
+    EXPECT_EQ(ImageAt(0), HBMMENU_CALLBACK);
+    EXPECT_EQ(ImageAt(1), HBMMENU_CALLBACK);
+    EXPECT_EQ(ImageAt(2), HBMMENU_CALLBACK);
+    EXPECT_EQ(ImageAt(3), nullptr);
+
+    images.Remove(kFirst);
+    images.GiveTo(menu.Get());
+    for (UINT position = 0; position < 4; ++position) EXPECT_EQ(ImageAt(position), nullptr) << position;
 }
 
 TEST_F(MenuImagesTest, LeavesItemsWithoutAnImageSeparatorsAndPopupsAlone) {
@@ -269,26 +306,24 @@ TEST_F(MenuImagesTest, LeavesItemsWithoutAnImageSeparatorsAndPopupsAlone) {
 
     images.GiveTo(menu.Get());
 
-    for (UINT position = 0; position < 3; ++position) {
-        MENUITEMINFOW item{};
-        item.cbSize = sizeof item;
-        item.fMask = MIIM_BITMAP;
-        ::GetMenuItemInfoW(menu.Get(), position, TRUE, &item);
-        EXPECT_EQ(item.hbmpItem, nullptr) << position;
-    }
+    for (UINT position = 0; position < 3; ++position) EXPECT_EQ(ImageAt(position), nullptr) << position;
 }
 
 TEST_F(MenuImagesTest, LeavesTheImagesOfAWindowMenuToTheSystem) {
     Append(SC_CLOSE);
+    Append(kFirst);
+    images.Set(kFirst, AlphaIcon(0xFFFF0000).Get());
     MENUITEMINFOW item{};
     item.cbSize = sizeof item;
     item.fMask = MIIM_BITMAP;
     item.hbmpItem = HBMMENU_POPUP_CLOSE;
     ::SetMenuItemInfoW(menu.Get(), SC_CLOSE, FALSE, &item);
 
-    images.GiveTo(menu.Get());
-
-    EXPECT_EQ(ImageOf(SC_CLOSE), HBMMENU_POPUP_CLOSE);
+    for (const MenuImageStyle each : {MenuImageStyle::kBitmap, MenuImageStyle::kCallback}) {
+        style = each;
+        images.GiveTo(menu.Get());
+        EXPECT_EQ(ImageOf(SC_CLOSE), HBMMENU_POPUP_CLOSE);
+    }
 }
 
 TEST_F(MenuImagesTest, TakesTheImageFromAnItemWhoseCommandHasLostIt) {
@@ -372,21 +407,28 @@ TEST_F(MenuImagesTest, SurvivesAMenuThatIsGone) {
     images.GiveTo(nullptr);
 }
 
-TEST_F(MenuImagesTest, MeasuresTheCellForCommandsWithAnImageOnly) {
+TEST_F(MenuImagesTest, MeasuresTheSameCellForEveryItemOfAMenu) {
+    images.Set(kFirst, AlphaIcon(0xFFFF0000).Get());
+
+    for (const UINT command : {kFirst, kFirst + 1}) {
+        MEASUREITEMSTRUCT item{};
+        item.CtlType = ODT_MENU;
+        item.itemID = command;
+        EXPECT_EQ(images.Measure(item), Reply{TRUE});
+        EXPECT_EQ(item.itemWidth, static_cast<UINT>(kCell.width));
+        EXPECT_EQ(item.itemHeight, static_cast<UINT>(kCell.height));
+    }
+}
+
+TEST_F(MenuImagesTest, MeasuresNothingButMenus) {
     images.Set(kFirst, AlphaIcon(0xFFFF0000).Get());
     MEASUREITEMSTRUCT item{};
-    item.CtlType = ODT_MENU;
+    item.CtlType = ODT_LISTBOX;
     item.itemID = kFirst;
 
-    EXPECT_EQ(images.Measure(item), Reply{TRUE});
-    EXPECT_EQ(item.itemWidth, static_cast<UINT>(kCell.width));
-    EXPECT_EQ(item.itemHeight, static_cast<UINT>(kCell.height));
+    EXPECT_EQ(images.Measure(item), Reply{});
 
-    item.itemID = kFirst + 1;
-    EXPECT_EQ(images.Measure(item), Reply{});
-    item.itemID = kFirst;
-    item.CtlType = ODT_BUTTON;
-    EXPECT_EQ(images.Measure(item), Reply{});
+    EXPECT_EQ(item.itemHeight, 0U);
 }
 
 TEST_F(MenuImagesTest, DrawsTheImageInTheMiddleOfItsCell) {
@@ -423,12 +465,19 @@ TEST_F(MenuImagesTest, DrawsAGreyedItemDimmed) {
     }
 }
 
-TEST_F(MenuImagesTest, DrawsNothingThatIsNotItsOwn) {
+TEST_F(MenuImagesTest, LeavesTheCellOfAnItemWithoutAnImageEmpty) {
+    const Canvas canvas{kCell};
+
+    EXPECT_EQ(DrawOn(canvas, kFirst + 1), Reply{TRUE});
+
+    EXPECT_EQ(canvas.Content({0, 0, kCell.width, kCell.height}, RGB(255, 255, 255)), korvane::base::Rect{});
+}
+
+TEST_F(MenuImagesTest, DrawsNothingButMenus) {
     const Canvas canvas{kCell};
     images.Set(kFirst, AlphaIcon(0xFFFF0000).Get());
 
     EXPECT_EQ(DrawOn(canvas, kFirst, 0, ODT_BUTTON), Reply{});
-    EXPECT_EQ(DrawOn(canvas, kFirst + 1), Reply{});
 
     EXPECT_EQ(canvas.Pixel(10, 10), static_cast<COLORREF>(RGB(255, 255, 255)));
 }
@@ -504,6 +553,27 @@ TEST_F(OpenMenuTest, DrawsTheImagesWhileItIsOpen) {
     EXPECT_EQ(image, static_cast<COLORREF>(RGB(255, 0, 0)));
     EXPECT_NE(std::ranges::find(drawn, kFirst), drawn.end());
     EXPECT_NE(std::ranges::find(drawn, kFirst + 2), drawn.end());
+}
+
+// Rows would otherwise differ, and a shortcut would stand on the longest text where that text has no image.
+TEST_F(OpenMenuTest, HasRowsOfOneHeightThoughNotAllHaveAnImage) {
+    style = MenuImageStyle::kCallback;
+    images.Remove(kFirst + 1);
+    std::vector<LONG> heights;
+    owner.shown = [&](HWND) {
+        for (const UINT position : {0U, 1U, 3U}) {
+            RECT item{};
+            ::GetMenuItemRect(nullptr, menu.Get(), position, &item);
+            heights.push_back(item.bottom - item.top);
+        }
+    };
+
+    owner.Choose(menu.Get(), {});
+
+    ASSERT_EQ(heights.size(), 3U);
+    EXPECT_EQ(heights[0], heights[1]);
+    EXPECT_EQ(heights[0], heights[2]);
+    EXPECT_GE(heights[0], kCell.height);
 }
 
 TEST_F(OpenMenuTest, IsNotAskedToDrawBitmaps) {

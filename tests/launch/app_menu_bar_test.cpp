@@ -55,7 +55,8 @@ TEST_F(AppMenuBarTest, ShowsImagesOfSixteenPixels) {
     EXPECT_EQ(image.bmHeight, fw::Scale()(16));
 }
 
-TEST_F(AppMenuBarTest, GivesAnImageTheRoomOfAButton) {
+// A menu adds one pixel above and one below.
+TEST_F(AppMenuBarTest, MakesRowsAsHighAsAButton) {
     bar.AddIcon(ID_EXIT, test::AlphaIcon(0xFF112233).Get());
     MEASUREITEMSTRUCT item{};
     item.CtlType = ODT_MENU;
@@ -64,7 +65,7 @@ TEST_F(AppMenuBarTest, GivesAnImageTheRoomOfAButton) {
     EXPECT_EQ(bar.OnMeasureItem(item), fw::Reply{TRUE});
 
     EXPECT_EQ(item.itemWidth, static_cast<UINT>(fw::Scale()(22)));
-    EXPECT_EQ(item.itemHeight, static_cast<UINT>(fw::Scale()(22)));
+    EXPECT_EQ(item.itemHeight, static_cast<UINT>(fw::Scale()(22) - 2));
 }
 
 TEST_F(AppMenuBarTest, AsksTheSourcesOfAPopupWhenItOpensAndOfNoOther) {
@@ -89,10 +90,8 @@ TEST_F(AppMenuBarTest, TakesARemovedImageOutOfItsItemAtOnce) {
     bar.RemoveImage(ID_EXIT);
 
     EXPECT_EQ(ImageOf(ID_EXIT), nullptr);
-    MEASUREITEMSTRUCT item{};
-    item.CtlType = ODT_MENU;
-    item.itemID = ID_EXIT;
-    EXPECT_EQ(bar.OnMeasureItem(item), fw::Reply{});
+    bar.OnInitMenuPopup(bar.Popup(POPUP_MAIN));
+    EXPECT_EQ(ImageOf(ID_EXIT), nullptr);
 }
 
 TEST_F(AppMenuBarTest, TakesAReplacedImageOutOfItsItemAtOnce) {

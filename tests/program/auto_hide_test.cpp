@@ -266,6 +266,19 @@ TEST_F(AutoHide, SlidesOutUnderTheCursorWithItsKey) {
     EXPECT_EQ(PlaceOf(bar), whole_) << "the cursor holds it";
 }
 
+TEST_F(AutoHide, SlidesOutToOpenAHistoryByKey) {
+    const Program program;
+    const HWND bar = WaitForStrip(program);
+    ASSERT_NE(bar, nullptr);
+    const auto windowsOfTheProgram = [&] { return WindowsOf(program.Id()).size(); };
+    const auto before = windowsOfTheProgram();
+
+    Command(bar, kOpenCommandHistory);
+
+    EXPECT_EQ(PlaceIn(bar, whole_), whole_);
+    EXPECT_TRUE(WaitUntil([&] { return windowsOfTheProgram() > before; }));
+}
+
 TEST_F(AutoHide, StaysInUnderAFullScreenProgram) {
     const Program program;
     const HWND bar = WaitForStrip(program);
@@ -449,15 +462,31 @@ TEST_F(SwitchingAutoHide, StartsWithTheWholeBarBesideATaskBarThatHides) {
     EXPECT_EQ(PlaceIn(bar, BottomOf(screen_)), BottomOf(screen_));
 }
 
+TEST_F(SwitchingAutoHide, TheKeyThatShowsTheBarLeavesTheCursorAloneWhenItIsOut) {
+    const Program program;
+    const HWND bar = WaitForWhole(program);
+    ASSERT_NE(bar, nullptr);
+
+    constexpr WPARAM kShowBar = 1000;
+    ::PostMessageW(bar, WM_HOTKEY, kShowBar, MAKELPARAM(MOD_ALT | MOD_WIN, 'Z'));
+    // Told after the key, so that it is handled after it.
+    Close(bar);
+    ASSERT_EQ(program.WaitForExit(), 0u);
+
+    POINT cursor{};
+    ::GetCursorPos(&cursor);
+    EXPECT_EQ(cursor.x, width_ / 2);
+    EXPECT_EQ(cursor.y, height_ / 2);
+}
+
 TEST_F(SwitchingAutoHide, DoesNothingWhileTheBarFloats) {
     WriteSetting(kPlacement, L"DefaultDesktopBarMode", DWORD{0});
     const Program program;
     const HWND bar = program.WaitForBar();
     ASSERT_NE(bar, nullptr);
-    ASSERT_TRUE(ClickIntoFocus(Control(bar, kCommandBox)));
 
-    PressKeys({VK_CONTROL, VK_SHIFT, 'I'});
-    // Told after the keys, so that it is handled after them.
+    Command(bar, kToggleAutoHide);
+    // Told after it, so that it is handled after it.
     Close(bar);
     ASSERT_EQ(program.WaitForExit(), 0u);
 

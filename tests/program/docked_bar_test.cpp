@@ -283,6 +283,20 @@ TEST_F(LeavingTheEdge, WithTheSessionGivesTheStripBack) {
     ExpectEverythingGivenBack(bar);
 }
 
+TEST_F(LeavingTheEdge, WithTheSessionLetsGoOfAutoHideFirst) {
+    HideAutomatically();
+    const Program program;
+    const HWND bar = program.WaitForBar();
+    ASSERT_NE(bar, nullptr);
+    ASSERT_EQ(shell_.AutoHideOwner(ABE_TOP), bar);
+    shell_.ClearLog();
+
+    ::SendMessageW(bar, WM_ENDSESSION, TRUE, 0);
+
+    EXPECT_EQ(shell_.Steps(), "SETAUTOHIDEBAR(0) REMOVE");
+    ExpectEverythingGivenBack(bar);
+}
+
 TEST_F(LeavingTheEdge, ASessionThatGoesOnKeepsTheStrip) {
     const Program program;
     const HWND bar = program.WaitForBar();

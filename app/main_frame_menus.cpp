@@ -1,0 +1,128 @@
+// The frame's menus: what they are called, what they look like and in which state they open.
+#include "app/built_in_programs.h"
+#include "app/logic/menu_states.h"
+#include "app/logic/menu_texts.h"
+#include "app/logic/notification_icon_rules.h"
+#include "app/main_frame.h"
+#include "app/screen_saver.h"
+#include "framework/icons.h"
+#include "framework/scoped_flag.h"
+#include "framework/string_table.h"
+#include "framework/windows_version.h"
+#include "launch/command_entries.h"
+#include "settings/logic/setting_keys.h"
+
+namespace korvane::app {
+
+namespace keys = settings::keys;
+
+namespace {
+
+// Within the main menu's pop-up, where separators count too.
+constexpr int kTaskMenuPosition = 14;
+
+} // namespace
+
+HMENU CMainFrame::Popup(int position) const {
+    return menus_.Popup(position);
+}
+
+UINT CMainFrame::TrackPopup(int position, UINT flags, POINT at) {
+    return Track(Popup(position), flags, at);
+}
+
+UINT CMainFrame::Track(HMENU menu, UINT flags, POINT at) {
+    const fw::ScopedFlag busy{inputBusy_};
+    return static_cast<UINT>(::TrackPopupMenuEx(menu, flags, at.x, at.y, Handle(), nullptr));
+}
+
+void CMainFrame::TrackFromOutside(HMENU menu) {
+    // A menu is open already; Windows would refuse a second one.
+    if (inputBusy_) return;
+    POINT cursor{};
+    ::GetCursorPos(&cursor);
+    // A menu of a window that is not in the foreground does not close when the user clicks elsewhere, and the one after
+    // it closes at once unless a message comes in between (TrackPopupMenu's documentation).
+    ::SetForegroundWindow(Handle());
+    Track(menu, TPM_RIGHTBUTTON, cursor);
+    ::PostMessageW(Handle(), WM_NULL, 0, 0);
+}
+
+void CMainFrame::OnNotificationIcon(const fw::Message& message) {
+    switch (ActionOf(LOWORD(message.lparam), modalMessageOpen_)) {
+    case IconAction::kNone:
+        break;
+    case IconAction::kShowMenu:
+        TrackFromOutside(Popup(POPUP_MAIN));
+        break;
+    case IconAction::kShowBar:
+        ShowBarUnderCursor();
+        break;
+    }
+}
+
+void CMainFrame::NameMenusForThisWindows() {
+    for (const MenuTextChange& change :
+         MenuTextChanges(fw::IsWindowsAtLeast(fw::kWindows7), fw::IsWindowsAtLeast(fw::kWindows8)))
+        ::ModifyMenuW(menus_.Menu(), change.command, MF_BYCOMMAND | MF_STRING, change.command,
+                      fw::LoadText(change.textId).c_str());
+}
+
+void CMainFrame::AddMenuImages() {
+    for (UINT command = ID_PROGRAM_FIRST; command <= ID_PROGRAM_LAST; ++command)
+        menus_.AddIcon(command, [command] { return BuiltInProgramIcon(command); });
+    for (UINT command = ID_ENTRY_FIRST; command <= ID_CONTROL_PANEL_LAST; ++command)
+        menus_.AddIcon(command, [command, this] {
+            const launch::CommandEntry entry = launch::LoadCommandEntry(command, settings_);
+            return entry.HasIcon() ? fw::ExtractSmallIcon(entry.iconFile, entry.iconIndex) : fw::UniqueIcon{};
+        });
+    for (const UINT command : {ID_LAUNCH_SETTINGS, ID_SEARCH_SETTINGS})
+        menus_.AddIcon(command, [] { return fw::LoadResourceIcon(IDI_SETTINGS, ::GetSystemMetrics(SM_CXSMICON)); });
+}
+
+fw::Reply CMainFrame::OnInitMenuPopup(const fw::Message& message) {
+    const auto popup = reinterpret_cast<HMENU>(message.wparam);
+    const HMENU mainMenu = Popup(POPUP_MAIN);
+    if (popup == mainMenu) RefreshMenuStates();
+    if (popup == ::GetSubMenu(mainMenu, kTaskMenuPosition)) BuildTaskMenu(popup);
+    menus_.OnInitMenuPopup(popup);
+    return fw::kPassOn;
+}
+
+fw::Reply CMainFrame::OnMeasureItem(MEASUREITEMSTRUCT& item) {
+    return menus_.OnMeasureItem(item);
+}
+
+void CMainFrame::RefreshMenuStates() {
+    const bool docked = docking_.Docked();
+    for (const MenuItemState& item :
+         MenuStates({.desktopBarMode = docked,
+         .autoHide = docking_.AutoHide(),
+         .topmost = settings_.Read(keys::TopMostWindow) > 0,
+         .clipboardMonitored = clipboardMonitored_,
+         .screenSaverThere = HasScreenSaver(),
+         .otherAutoHideBarOnEdge = docked && !docking_.AutoHide() && docking_.OtherBarHides()})) {
+        ::CheckMenuItem(menus_.Menu(), item.command, MF_BYCOMMAND | (item.checked ? MF_CHECKED : MF_UNCHECKED));
+        ::EnableMenuItem(menus_.Menu(), item.command, MF_BYCOMMAND | (item.enabled ? MF_ENABLED : MF_GRAYED));
+    }
+}
+
+void CMainFrame::GreyUnbuilt() {
+    for (const UINT command : {ID_LAUNCH_SETTINGS, ID_SEARCH_SETTINGS})
+        ::EnableMenuItem(menus_.Menu(), command, MF_BYCOMMAND | MF_GRAYED);
+}
+
+void CMainFrame::BuildTaskMenu(HMENU popup) {
+    for (int at = ::GetMenuItemCount(popup) - 1; at >= 0; --at)
+        ::DeleteMenu(popup, static_cast<UINT>(at), MF_BYPOSITION);
+    for (UINT command = ID_TASK_FIRST; command <= ID_TASK_LAST; ++command) menus_.RemoveImage(command);
+
+    tasks_.Refresh(Handle());
+    for (const TaskMenuRow& row : tasks_.MenuRows(taskNameChoice_)) {
+        const UINT kind = row.IsSeparator() ? MF_SEPARATOR : MF_STRING;
+        ::AppendMenuW(popup, kind | (row.enabled ? MF_ENABLED : MF_GRAYED), row.command, row.text.c_str());
+        if (const Task* const task = tasks_.Find(row.command)) menus_.AddIcon(row.command, task->icon.Get());
+    }
+}
+
+} // namespace korvane::app
