@@ -419,7 +419,7 @@ TEST_F(TaskListTest, IsNotHeldUpByAHundredWindowsThatDoNotAnswer) {
     const auto titles = Titles();
 
     // A tenth of a second for each would be ten.
-    EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::seconds{4});
+    EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::seconds{8});
     EXPECT_THAT(titles, SizeIs(100));
 }
 
