@@ -42,7 +42,7 @@ public:
                                               UINT unitsPerLength) const {
         void* data = nullptr;
         UINT length = 0;
-        if (!query_(block.data(), name, &data, &length) || !data) return {};
+        if (!query_ || !query_(block.data(), name, &data, &length) || !data) return {};
         return {static_cast<const Unit*>(data), length / unitsPerLength};
     }
 

@@ -279,6 +279,19 @@ TEST_F(MenusTest, TheIconInTheNotificationAreaOpensTheMainMenuUnlessABoxIsOpen) 
     EXPECT_EQ(opened.First(), MainMenu());
 }
 
+TEST_F(MenusTest, AMenuOpenedFromOutsideIsFollowedByAMessageThatClosesItForGood) {
+    Bar();
+    ::PostMessageW(Bar().Handle(), WM_CANCELMODE, 0, 0);
+
+    Send(WM_APP + 2, 1, WM_RBUTTONUP);
+
+    // Otherwise the next menu closes at once, see TrackPopupMenu's documentation.
+    MSG message{};
+    bool followed = false;
+    while (::PeekMessageW(&message, Bar().Handle(), 0, 0, PM_REMOVE)) followed = followed || message.message == WM_NULL;
+    EXPECT_TRUE(followed);
+}
+
 TEST_F(MenusTest, TheIconInTheNotificationAreaIsDeafAfterARefusedQuestionUntilTheNextBox) {
     Bar();
     {
