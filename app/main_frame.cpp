@@ -45,8 +45,13 @@ CMainFrame::CMainFrame(fw::MessageLoop& loop, const HelpSession& help, FramePlac
 CMainFrame::~CMainFrame() = default;
 
 void CMainFrame::ShowFirst(int showCommand) {
-    // A docked bar is neither minimised nor maximised, whatever its shortcut asks for.
-    ::ShowWindow(Handle(), docking_.Docked() ? SW_SHOW : showCommand);
+    if (docking_.Docked()) {
+        // A docked bar is neither minimised nor maximised, whatever its shortcut asks for; and the first ShowWindow of
+        // a process would ask the shortcut.
+        ::SetWindowPos(Handle(), nullptr, 0, 0, 0, 0, SWP_SHOWWINDOW | SWP_NOMOVE | SWP_NOSIZE | SWP_NOZORDER);
+    } else {
+        ::ShowWindow(Handle(), showCommand);
+    }
     ::UpdateWindow(Handle());
     // The children too, before what could wait until the bar is to be seen.
     ::RedrawWindow(Handle(), nullptr, nullptr, RDW_UPDATENOW | RDW_ALLCHILDREN);

@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "tests/program/docked_bar.h"
+#include "tests/support/other_window.h"
 
 namespace korvane::test {
 namespace {
@@ -264,6 +265,29 @@ TEST_F(AutoHide, SlidesOutUnderTheCursorWithItsKey) {
     ASSERT_TRUE(WaitUntilIdle(bar));
     Expire(bar, kHideCheck);
     EXPECT_EQ(PlaceOf(bar), whole_) << "the cursor holds it";
+}
+
+TEST_F(AutoHide, LeavesTheForegroundToTheProgramThatHasIt) {
+    const Program program;
+    const HWND bar = program.WaitForBar();
+    ASSERT_NE(bar, nullptr);
+    ASSERT_EQ(PlaceIn(bar, TopOf(besideTaskBar_, 1)), TopOf(besideTaskBar_, 1));
+    const OtherWindow other{L"other"};
+    ASSERT_TRUE(other.TakeForeground());
+
+    ::PostMessageW(bar, WM_HOTKEY, 1000, 0);
+    EXPECT_EQ(PlaceIn(bar, TopOf(besideTaskBar_)), TopOf(besideTaskBar_));
+    EXPECT_EQ(::GetForegroundWindow(), other.Handle()) << "when the bar comes";
+
+    PutMouse(width_ / 2, height_ / 2);
+    EXPECT_EQ(PlaceIn(bar, TopOf(besideTaskBar_, 1)), TopOf(besideTaskBar_, 1));
+    EXPECT_EQ(::GetForegroundWindow(), other.Handle()) << "when it goes";
+
+    shell_.ClearLog();
+    shell_.Notify(ABN_STATECHANGE);
+    ASSERT_TRUE(WaitForCount("SETAUTOHIDEBAR", 2));
+    ASSERT_TRUE(WaitUntilIdle(bar));
+    EXPECT_EQ(::GetForegroundWindow(), other.Handle()) << "when it docks again";
 }
 
 TEST_F(AutoHide, SlidesOutToOpenAHistoryByKey) {

@@ -18,6 +18,20 @@ TEST_F(DockedBar, StandsAtTheTopAndTakesItsStripFromTheWorkArea) {
     EXPECT_EQ(shell_.Steps(), "NEW QUERYPOS SETPOS");
 }
 
+TEST_F(DockedBar, StandsThereWhateverStateItsShortcutAsksFor) {
+    for (const WORD showCommand : {WORD{SW_SHOWMINNOACTIVE}, WORD{SW_SHOWMAXIMIZED}, WORD{SW_HIDE}}) {
+        const Program program{{.showCommand = showCommand}};
+        const HWND bar = program.WaitForBar();
+        ASSERT_NE(bar, nullptr) << showCommand;
+
+        EXPECT_EQ(PlaceIn(bar, TopOf(screen_)), TopOf(screen_)) << showCommand;
+        EXPECT_FALSE(::IsIconic(bar)) << showCommand;
+        EXPECT_FALSE(::IsZoomed(bar)) << showCommand;
+        Close(bar);
+        EXPECT_EQ(program.WaitForExit(), 0U) << showCommand;
+    }
+}
+
 TEST_F(DockedBar, IsABareToolWindow) {
     const Program program;
     const HWND bar = program.WaitForBar();
