@@ -165,6 +165,30 @@ TEST_F(DockedFrameTest, HidesTheClockWithTheOthersWhileItIsShown) {
     EXPECT_TRUE(Shown(ID_CLOCK));
 }
 
+TEST_F(DockedFrameTest, StaysOutAfterARefusedQuestionUntilTheNextBoxHasBeenAnswered) {
+    StartDocked();
+    settings.Write(keys::DesktopBarAutoHide, 1);
+    settings.Write(keys::LaunchMenuItem, 4, L"C:\\nowhere\\gone.exe, , ,notepad.exe,0,gone");
+    Bar();
+    Send(WM_HOTKEY, HOTKEY_SHOW_BAR);
+    ::SetCursorPos(600, 400);
+    {
+        const test::MessageBoxAnswer answer{IDNO};
+        Send(WM_COMMAND, ID_SIGN_OUT);
+    }
+
+    Send(WM_TIMER, 1);
+    EXPECT_EQ(fw::WindowRect(Bar().Handle()).Height(), 32);
+
+    {
+        const test::MessageBoxAnswer answer{IDOK};
+        Send(WM_COMMAND, ID_LAUNCH_FIRST);
+        EXPECT_EQ(answer.Count(), 1);
+    }
+    Send(WM_TIMER, 1);
+    EXPECT_EQ(fw::WindowRect(Bar().Handle()).Height(), 1);
+}
+
 TEST_F(DockedFrameTest, TogglesBeingOnTopOnlyWhileItFloats) {
     Command(ID_TOPMOST);
     EXPECT_EQ(settings.Read(keys::TopMostWindow), 1);
