@@ -94,14 +94,14 @@ fw::Reply CMainFrame::OnMeasureItem(MEASUREITEMSTRUCT& item) {
 }
 
 void CMainFrame::RefreshMenuStates() {
-    const bool docked = docking_.Docked();
-    for (const MenuItemState& item :
-         MenuStates({.desktopBarMode = docked,
-         .autoHide = docking_.AutoHide(),
-         .topmost = settings_.Read(keys::TopMostWindow) > 0,
-         .clipboardMonitored = clipboardMonitored_,
-         .screenSaverThere = HasScreenSaver(),
-         .otherAutoHideBarOnEdge = docked && !docking_.AutoHide() && docking_.OtherBarHides()})) {
+    MenuSituation now;
+    now.desktopBarMode = docking_.Docked();
+    now.autoHide = docking_.AutoHide();
+    now.topmost = settings_.Read(keys::TopMostWindow) > 0;
+    now.clipboardMonitored = clipboardMonitored_;
+    now.screenSaverThere = HasScreenSaver();
+    now.otherAutoHideBarOnEdge = now.desktopBarMode && !now.autoHide && docking_.OtherBarHides();
+    for (const MenuItemState& item : MenuStates(now)) {
         ::CheckMenuItem(menus_.Menu(), item.command, MF_BYCOMMAND | (item.checked ? MF_CHECKED : MF_UNCHECKED));
         ::EnableMenuItem(menus_.Menu(), item.command, MF_BYCOMMAND | (item.enabled ? MF_ENABLED : MF_GRAYED));
     }

@@ -59,7 +59,7 @@ public:
     // Without handling messages meanwhile.
     virtual void Wait(std::chrono::milliseconds time) = 0;
 
-    // Mode or auto-hide changed: menus and layout follow.
+    // The mode or auto-hide changed: what the bar shows follows.
     virtual void DockingChanged() = 0;
 };
 
