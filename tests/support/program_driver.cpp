@@ -174,18 +174,11 @@ bool WaitUntilIdle(HWND window) {
     return ::SendMessageTimeoutW(window, WM_NULL, 0, 0, SMTO_NORMAL, kAnswerTimeoutMs, &answer) != 0;
 }
 
-void PressKeys(std::initializer_list<WORD> keys, HWND slowlyFor) {
+void PressKeys(std::initializer_list<WORD> keys) {
     std::vector<INPUT> inputs;
     for (WORD key : keys) inputs.push_back(KeyInput(key, false));
     for (auto key = std::rbegin(keys); key != std::rend(keys); ++key) inputs.push_back(KeyInput(*key, true));
-    if (!slowlyFor) {
-        Send(std::move(inputs));
-        return;
-    }
-    for (const INPUT& input : inputs) {
-        Send({input});
-        WaitUntilIdle(slowlyFor);
-    }
+    Send(std::move(inputs));
 }
 
 void TypeText(std::wstring_view text) {

@@ -34,9 +34,8 @@ bool WaitUntilIdle(HWND window);
 
 // ---- Real input
 
-// Presses the keys one after another, holding each, and releases them in the opposite order. With a window, it has
-// handled each key before the next one comes, as with a person's fingers: a hot key overtakes keys that still wait.
-void PressKeys(std::initializer_list<WORD> keys, HWND slowlyFor = nullptr);
+// Presses the keys one after another, holding each, and releases them in the opposite order.
+void PressKeys(std::initializer_list<WORD> keys);
 // Types characters, whatever the keyboard layout.
 void TypeText(std::wstring_view text);
 // Clicks the middle of a window with the left mouse button.
