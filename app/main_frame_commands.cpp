@@ -12,6 +12,7 @@
 #include "framework/string_table.h"
 #include "launch/command_entries.h"
 #include "launch/launch_menu.h"
+#include "search/logic/process_starter.h"
 #include "search/logic/typed_command.h"
 #include "search/path_pickers.h"
 #include "settings/logic/setting_keys.h"
@@ -119,9 +120,8 @@ void CMainFrame::RunProgram(UINT command) {
 }
 
 void CMainFrame::ReportStart(INT_PTR result, fw::Centring centring) {
-    constexpr INT_PTR kLastFailure = 32;
     // The shell's result is shown as a system error code on purpose, also where the two numberings differ.
-    if (result <= kLastFailure) ReportError(static_cast<DWORD>(result), centring);
+    if (const DWORD error = search::ErrorOfShell(static_cast<int>(result))) ReportError(error, centring);
 }
 
 void CMainFrame::ToggleClipboardMonitor() {
