@@ -298,6 +298,8 @@ TEST_F(MenusTest, TheIconInTheNotificationAreaIsDeafAfterARefusedQuestionUntilTh
         const test::MessageBoxAnswer answer{IDNO};
         Send(WM_COMMAND, ID_SHUT_DOWN);
     }
+    // Ends a menu that should not be there.
+    ::PostMessageW(Bar().Handle(), WM_CANCELMODE, 0, 0);
     const test::PopupsOpened opened;
 
     Send(WM_APP + 2, 1, WM_RBUTTONUP);
