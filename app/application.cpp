@@ -9,8 +9,8 @@
 #include <string>
 #include <vector>
 
+#include "about/help_session.h"
 #include "app/foreground.h"
-#include "app/help_session.h"
 #include "app/logic/start_checks.h"
 #include "app/main_frame.h"
 #include "framework/centred_message_box.h"
@@ -80,7 +80,7 @@ int RunApplication(int showCommand) {
 
     // Released in the opposite order, after the frame.
     const fw::GdiplusSession gdiplus;
-    const HelpSession help;
+    const about::HelpSession help;
     const ComSession com;
     InitialiseCommonControls();
 

@@ -36,7 +36,7 @@ constexpr UINT_PTR kClipboardTimer = 5;
 
 } // namespace
 
-CMainFrame::CMainFrame(fw::MessageLoop& loop, const HelpSession& help, FramePlaces places)
+CMainFrame::CMainFrame(fw::MessageLoop& loop, const about::HelpSession& help, FramePlaces places)
     : loop_{loop}, help_{help}, places_{std::move(places)}, settings_{HKEY_CURRENT_USER, places_.settingsKey},
       controls_{*this}, encoder_{search::WindowsTextEncoder()},
       clipboard_{kClipboardTimer, [this] { return clipboardMonitored_ && !controls_.searchBox.Composing(); },

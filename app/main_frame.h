@@ -7,9 +7,9 @@
 #include <optional>
 #include <string>
 
+#include "about/help_session.h"
 #include "app/bar_controls.h"
 #include "app/clipboard_monitor.h"
-#include "app/help_session.h"
 #include "app/logic/bar_layout.h"
 #include "app/logic/docked_window.h"
 #include "app/logic/docking.h"
@@ -86,7 +86,7 @@ public:
     }
 
     // Loop and session outlive the frame.
-    CMainFrame(fw::MessageLoop& loop, const HelpSession& help, FramePlaces places = {});
+    CMainFrame(fw::MessageLoop& loop, const about::HelpSession& help, FramePlaces places = {});
     ~CMainFrame() override;
 
     // False when Windows or one of the creation's own checks refused; what can be told to the user has been told then,
@@ -230,7 +230,7 @@ private:
     void ReportError(DWORD code, fw::Centring centring = fw::Centring::kOnOwner);
 
     fw::MessageLoop& loop_;
-    const HelpSession& help_;
+    const about::HelpSession& help_;
     FramePlaces places_;
     fw::MessageLoop::Registration filter_;
     fw::UniqueHandle<HACCEL, &::DestroyAcceleratorTable> accelerators_;

@@ -8,7 +8,10 @@
 // Resources.
 #define IDM_BAR                     101   // three pop-ups: main menu, search menu, control panel menu
 #define IDA_BAR                     128
+#define IDD_ABOUT                   102
 #define IDD_HISTORY_DROP_DOWN       103
+#define IDD_TIME_DATE               104
+#define IDD_EDIT_SEARCH             109
 
 // Menu pop-ups by position in IDM_BAR.
 #define POPUP_MAIN                  0
@@ -91,6 +94,34 @@
 #define ID_EXIT                     57665
 #define ID_HELP_CONTENTS            57666
 
+// Controls of the dialogs. A number stands for one thing in each dialog.
+#define IDC_DIALOG_HELP             1009
+
+// About box.
+#define IDC_BAND_END                1001  // its top is the end of the coloured band
+#define IDC_SYSTEM_INFORMATION      1002
+#define IDC_LICENSED_TO             1003
+#define IDC_VERSION                 1004
+#define IDC_SITE                    1005
+
+// Calendar pop-up.
+#define IDC_NEXT_MONTH              1030
+#define IDC_PREVIOUS_MONTH          1031
+
+// Grep options.
+#define IDC_SEARCH_TEXT             1007
+#define IDC_FILE_TYPES              1008
+#define IDC_SEARCH_FOLDER           1010
+#define IDC_BROWSE_SEARCH_FOLDER    1011
+#define IDC_MATCH_CASE              1012
+#define IDC_SUBFOLDERS              1013
+#define IDC_WHOLE_WORDS             1014
+#define IDC_FILE_NAMES_ONLY         1015
+#define IDC_REGULAR_EXPRESSION      1016
+#define IDC_FUZZY                   1017
+#define IDC_SAVE_SEARCH             1021
+#define IDC_EDIT_FILE_TYPES         1022
+
 // Global hot keys.
 #define HOTKEY_SHOW_BAR             1000
 #define HOTKEY_LAUNCH_MENU          1001
@@ -108,6 +139,8 @@
 #define IDS_EMEDITOR_KEY            110
 #define IDS_HIDEMARU_KEY            111
 #define IDS_NO_SEARCH_COMMAND       114
+#define IDS_FOLDER_NOT_FOUND        123
+#define IDS_MAIL_NOTE               124
 #define IDS_AUTO_HIDE_TAKEN         125
 #define IDS_AUTO_HIDE_FAILED        126
 #define IDS_PRODUCT                 128
@@ -153,6 +186,14 @@
 #define IDS_NO_TASK                 232
 #define IDS_LAUNCH_SETTINGS         233
 #define IDS_COMMAND_PROMPT_PARAMETERS 234
+#define IDS_PREVIOUS_MONTH          235
+#define IDS_NEXT_MONTH              236
+#define IDS_EDITOR_SEARCH_TITLE     237
+#define IDS_SEARCH_FOLDER_TITLE     238
+#define IDS_SEARCH_FOLDER_PROMPT    239
+#define IDS_MAIL_NOTE_CAPTION       240
+#define IDS_RIGHTS                  241
+#define IDS_HELP_FAILED             242
 #define IDS_CONFIRM_EXIT            57665
 
 // clang-format on

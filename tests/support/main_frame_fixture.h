@@ -97,7 +97,7 @@ protected:
     TempFolder folder;
     settings::RegistryStore settings;
     fw::MessageLoop loop;
-    app::HelpSession help;
+    about::HelpSession help;
 
 private:
     std::unique_ptr<CMainFrame> frame_;

@@ -4,7 +4,7 @@
 
 #include "framework/handle.h"
 
-namespace korvane::app {
+namespace korvane::about {
 
 // HTML Help for the length of the program's life. The control is a library of the system folder that is loaded at run
 // time; where it is missing every call does nothing.
@@ -28,4 +28,4 @@ private:
     DWORD_PTR cookie_ = 0;
 };
 
-} // namespace korvane::app
+} // namespace korvane::about

@@ -1,10 +1,10 @@
-#include "app/help_session.h"
+#include "about/help_session.h"
 
 #include <htmlhelp.h>
 
 #include "framework/system_library.h"
 
-namespace korvane::app {
+namespace korvane::about {
 namespace {
 
 constexpr const wchar_t* kHelpFile = L"Korvane.chm";
@@ -27,4 +27,4 @@ void HelpSession::CloseWindows() const {
     if (call_(::GetDesktopWindow(), kHelpFile, HH_GET_WIN_HANDLE, windowType)) call_(nullptr, nullptr, HH_CLOSE_ALL, 0);
 }
 
-} // namespace korvane::app
+} // namespace korvane::about
