@@ -24,4 +24,7 @@ struct Colour {
     friend constexpr bool operator==(const Colour&, const Colour&) = default;
 };
 
+// The product's own colour.
+inline constexpr Colour kThemeColour = Colour::Rgb(159, 22, 106);
+
 } // namespace korvane::base

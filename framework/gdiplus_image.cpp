@@ -75,4 +75,10 @@ void PngImage::Draw(HDC dc, const korvane::base::Rect& target) const {
     graphics.DrawImage(bitmap_.get(), target.left, target.top, target.Width(), target.Height());
 }
 
+UniqueBitmap PngImage::ToBitmap() const {
+    HBITMAP bitmap = nullptr;
+    if (bitmap_) bitmap_->GetHBITMAP(Gdiplus::Color{}, &bitmap);
+    return UniqueBitmap{bitmap};
+}
+
 } // namespace fw

@@ -5,6 +5,7 @@
 #include <memory>
 
 #include "base/geometry.h"
+#include "framework/handle.h"
 
 namespace Gdiplus {
 class Bitmap;
@@ -40,6 +41,8 @@ public:
     [[nodiscard]] korvane::base::Size Extent() const;
     // Draws the picture into the rectangle, scaled with care when the sizes differ.
     void Draw(HDC dc, const korvane::base::Rect& target) const;
+    // A DIB section of the same size, black where the picture is transparent; empty when it cannot be read.
+    [[nodiscard]] UniqueBitmap ToBitmap() const;
 
 private:
     struct Release {

@@ -4,8 +4,7 @@
 
 namespace korvane::app {
 
-// The product's own colour.
-inline constexpr base::Colour kThemeColour = base::Colour::Rgb(159, 22, 106);
+using base::kThemeColour;
 
 // The values of the setting that chooses the bar's colour.
 inline constexpr int kColourTheme = 0;

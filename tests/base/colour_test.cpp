@@ -30,5 +30,9 @@ TEST(Colour, FindsItsSmallestPart) {
     EXPECT_EQ(Colour{0xFFFFFFFFU}.Darkest(), 255);
 }
 
+TEST(Colour, OfTheProductIsAPurplishRed) {
+    EXPECT_EQ(kThemeColour.value, 0x6A169Fu);
+}
+
 } // namespace
 } // namespace korvane::base

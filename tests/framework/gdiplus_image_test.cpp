@@ -38,12 +38,26 @@ TEST_F(PngImageTest, DrawsItsOpaquePixelsAndLeavesTheOthers) {
     EXPECT_EQ(::GetPixel(dc.Get(), 4, 7), static_cast<COLORREF>(RGB(255, 255, 255)));
 }
 
+TEST_F(PngImageTest, BecomesADibSectionOfItsSize) {
+    const UniqueBitmap bitmap = PngImage::FromResource(IDP_TEST_PICTURE).ToBitmap();
+
+    DIBSECTION section{};
+    ASSERT_EQ(::GetObjectW(bitmap.Get(), sizeof section, &section), static_cast<int>(sizeof section));
+    EXPECT_EQ(section.dsBm.bmWidth, 2);
+    EXPECT_EQ(section.dsBm.bmHeight, 3);
+    const UniqueMemoryDc dc{::CreateCompatibleDC(nullptr)};
+    const SelectedObject selected{dc.Get(), bitmap.Get()};
+    EXPECT_EQ(::GetPixel(dc.Get(), 0, 1), static_cast<COLORREF>(RGB(255, 0, 0)));
+    EXPECT_EQ(::GetPixel(dc.Get(), 1, 1), static_cast<COLORREF>(RGB(0, 0, 0)));
+}
+
 TEST_F(PngImageTest, IsEmptyWithoutAResource) {
     const PngImage image = PngImage::FromResource(IDP_TEST_PICTURE + 1000);
 
     EXPECT_FALSE(image);
     EXPECT_EQ(image.Extent(), korvane::base::Size{});
     image.Draw(nullptr, {0, 0, 5, 5});
+    EXPECT_FALSE(image.ToBitmap());
 }
 
 TEST_F(PngImageTest, IsEmptyWhenTheResourceIsDamaged) {
