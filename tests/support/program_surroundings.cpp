@@ -5,6 +5,7 @@
 #include <array>
 
 #include "framework/handle.h"
+#include "tests/support/line_log.h"
 #include "tests/support/program_driver.h"
 
 namespace korvane::test {
@@ -14,6 +15,7 @@ constexpr wchar_t kVendorKey[] = L"Software\\Dunmere Software";
 constexpr wchar_t kProductKey[] = L"Software\\Dunmere Software\\Korvane";
 constexpr wchar_t kVersionKey[] = L"Software\\Wine\\AppDefaults\\korvane.exe";
 constexpr wchar_t kRunKey[] = L"Software\\Microsoft\\Windows\\CurrentVersion\\Run";
+constexpr wchar_t kRecorderLog[] = L"korvane_recorder.txt";
 constexpr wchar_t kClasses[] = L"Software\\Classes\\";
 
 void SetValue(HKEY root, const std::wstring& path, const wchar_t* name, DWORD type, const void* bytes, DWORD length) {
@@ -41,33 +43,6 @@ std::optional<std::vector<BYTE>> ReadValue(const wchar_t* section, const wchar_t
     std::vector<BYTE> bytes(length);
     ::RegQueryValueExW(key, name, nullptr, &found, bytes.data(), &length);
     return bytes;
-}
-
-std::wstring LogFile() {
-    std::array<wchar_t, MAX_PATH> folder{};
-    ::GetTempPathW(static_cast<DWORD>(folder.size()), folder.data());
-    return std::wstring{folder.data()} + L"korvane_recorder.txt";
-}
-
-std::vector<std::wstring> LoggedLines() {
-    const HANDLE file = ::CreateFileW(LogFile().c_str(), GENERIC_READ, FILE_SHARE_READ | FILE_SHARE_WRITE, nullptr,
-                                      OPEN_EXISTING, 0, nullptr);
-    if (file == INVALID_HANDLE_VALUE) return {};
-    const fw::UniqueKernelHandle owner{file};
-    std::string bytes(::GetFileSize(file, nullptr), '\0');
-    DWORD read = 0;
-    ::ReadFile(file, bytes.data(), static_cast<DWORD>(bytes.size()), &read, nullptr);
-    bytes.resize(read);
-
-    std::vector<std::wstring> lines;
-    for (std::size_t start = 0, end = 0; (end = bytes.find('\n', start)) != std::string::npos; start = end + 1) {
-        const int length = static_cast<int>(end - start);
-        std::wstring line(static_cast<std::size_t>(length), L'\0');
-        line.resize(static_cast<std::size_t>(
-            ::MultiByteToWideChar(CP_UTF8, 0, bytes.data() + start, length, line.data(), length)));
-        lines.push_back(std::move(line));
-    }
-    return lines;
 }
 
 } // namespace
@@ -154,7 +129,7 @@ std::wstring CommandLineFor(std::wstring_view registration, std::wstring_view ta
 }
 
 void Install() {
-    ::DeleteFileW(LogFile().c_str());
+    ForgetLog(kRecorderLog);
     const std::wstring classes{kClasses};
     const auto open = [&](const wchar_t* name) {
         SetText(HKEY_LOCAL_MACHINE, classes + name + L"\\shell\\open\\command", nullptr, CommandLineFor(name, L"%1"));
@@ -174,7 +149,7 @@ void Install() {
 std::vector<std::wstring> WaitForCommandLines(std::size_t count) {
     std::vector<std::wstring> lines;
     WaitUntil([&] {
-        lines = LoggedLines();
+        lines = LoggedLines(kRecorderLog);
         return lines.size() >= count;
     });
     return lines;
