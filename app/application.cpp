@@ -80,11 +80,12 @@ int RunApplication(int showCommand) {
 
     // Released in the opposite order, after the frame.
     const fw::GdiplusSession gdiplus;
-    const about::HelpSession help;
+    about::HelpSession help;
     const ComSession com;
     InitialiseCommonControls();
 
     fw::MessageLoop loop;
+    const fw::MessageLoop::Registration helpKeys = loop.Add(help);
     CMainFrame frame{loop, help};
     if (const HWND other = ::FindWindowW(CMainFrame::kClass.name, nullptr)) {
         BringToForeground(other);

@@ -2,6 +2,7 @@
 
 #include <shlwapi.h>
 
+#include "about/program_version.h"
 #include "app/bar_font.h"
 #include "app/logic/bar_colours.h"
 #include "app/logic/command_routes.h"
@@ -36,7 +37,7 @@ constexpr UINT_PTR kClipboardTimer = 5;
 
 } // namespace
 
-CMainFrame::CMainFrame(fw::MessageLoop& loop, const about::HelpSession& help, FramePlaces places)
+CMainFrame::CMainFrame(fw::MessageLoop& loop, about::HelpSession& help, FramePlaces places)
     : loop_{loop}, help_{help}, places_{std::move(places)}, settings_{HKEY_CURRENT_USER, places_.settingsKey},
       controls_{*this}, encoder_{search::WindowsTextEncoder()},
       clipboard_{kClipboardTimer, [this] { return clipboardMonitored_ && !controls_.searchBox.Composing(); },
@@ -59,6 +60,7 @@ void CMainFrame::ShowFirst(int showCommand) {
     clipboard_.Start(Handle());
     launch::BuildLaunchMenu(menus_, settings_);
     GreyUnbuilt();
+    versionText_ = about::ReadVersionText();
 }
 
 int CMainFrame::OnCreate(const CREATESTRUCTW&) {

@@ -7,6 +7,7 @@
 #include <optional>
 #include <string>
 
+#include "about/help_opener.h"
 #include "about/help_session.h"
 #include "app/bar_controls.h"
 #include "app/clipboard_monitor.h"
@@ -48,6 +49,7 @@ struct FramePlaces {
 // brushes, and is where every command arrives.
 class CMainFrame final : public fw::Window<CMainFrame>,
                          public controls::BarHost,
+                         public about::HelpOpener,
                          public search::HistoryDropDownHost,
                          private DockedWindow,
                          private fw::MessageFilter {
@@ -76,6 +78,7 @@ public:
             fw::On<WM_SETFOCUS>(&CMainFrame::OnSetFocus),
             fw::On<WM_ACTIVATE>(&CMainFrame::OnActivate),
             fw::On<WM_HOTKEY>(&CMainFrame::OnHotKey),
+            fw::On<WM_HELP>(&CMainFrame::OnHelp),
             fw::On<WM_DWMCOLORIZATIONCOLORCHANGED>(&CMainFrame::OnColorizationChanged),
             fw::On<WM_COMMAND>(&CMainFrame::OnControlCommand),
             fw::OnControl<ID_COMMAND_BOX, ID_SEARCH_BOX, EN_CHANGE>(&CMainFrame::OnBoxChanged),
@@ -86,7 +89,7 @@ public:
     }
 
     // Loop and session outlive the frame.
-    CMainFrame(fw::MessageLoop& loop, const about::HelpSession& help, FramePlaces places = {});
+    CMainFrame(fw::MessageLoop& loop, about::HelpSession& help, FramePlaces places = {});
     ~CMainFrame() override;
 
     // False when Windows or one of the creation's own checks refused; what can be told to the user has been told then,
@@ -110,6 +113,9 @@ public:
     [[nodiscard]] HFONT BarFont() const override { return barFont_.Get(); }
     [[nodiscard]] HMENU Popup(int position) const override;
     UINT TrackPopup(int position, UINT flags, POINT at) override;
+
+    // about::HelpOpener
+    void OpenHelp(std::wstring_view topic, HWND asker) override;
 
     // search::HistoryDropDownHost
     void OnDropDownClosed(search::Box box) override;
@@ -164,6 +170,7 @@ private:
     void OnSetFocus(const fw::Message& message);
     fw::Reply OnActivate(UINT how, bool minimised);
     void OnHotKey(int id);
+    void OnHelp(const fw::Message& message);
     void OnColorizationChanged();
     void OnBoxChanged(UINT boxId);
     fw::Reply OnControlCommand(const fw::Message& message);
@@ -206,6 +213,8 @@ private:
     void RunProgram(UINT command);
     // Tells what went wrong when the shell's result says that something did.
     void ReportStart(INT_PTR result, fw::Centring centring);
+    void ShowAboutBox();
+    void OpenSupport(UINT command);
     void ToggleClipboardMonitor();
     void ToggleAutoHide();
     void ToggleTopmost();
@@ -230,10 +239,11 @@ private:
     void ReportError(DWORD code, fw::Centring centring = fw::Centring::kOnOwner);
 
     fw::MessageLoop& loop_;
-    const about::HelpSession& help_;
+    about::HelpSession& help_;
     FramePlaces places_;
     fw::MessageLoop::Registration filter_;
     fw::UniqueHandle<HACCEL, &::DestroyAcceleratorTable> accelerators_;
+    std::wstring versionText_;
     launch::CAppMenuBar menus_;
     fw::HotKey showBarKey_;
     fw::HotKey launchMenuKey_;

@@ -1,6 +1,7 @@
 // What the frame does when a command arrives.
 #include <variant>
 
+#include "about/logic/help_topics.h"
 #include "app/built_in_programs.h"
 #include "app/logic/command_routes.h"
 #include "app/main_frame.h"
@@ -70,6 +71,9 @@ fw::Reply CMainFrame::OnCommand(UINT command) {
     case Route::kToggleClipboardMonitor:
         ToggleClipboardMonitor();
         break;
+    case Route::kOpenSupport:
+        OpenSupport(command);
+        break;
     case Route::kStartScreenSaver:
         StartScreenSaver();
         break;
@@ -81,6 +85,12 @@ fw::Reply CMainFrame::OnCommand(UINT command) {
         break;
     case Route::kToggleAutoHide:
         ToggleAutoHide();
+        break;
+    case Route::kAbout:
+        ShowAboutBox();
+        break;
+    case Route::kHelp:
+        OpenHelp(about::help_topic::kContents, Handle());
         break;
     case Route::kExit:
         ::PostMessageW(Handle(), WM_CLOSE, 0, 0);

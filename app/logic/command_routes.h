@@ -26,8 +26,11 @@ enum class Route {
     kToggleTopmost,
     kToggleAutoHide,
     kToggleClipboardMonitor,
+    kOpenSupport,
     kStartScreenSaver,
+    kAbout,
     kExit,
+    kHelp,
 };
 
 struct CommandRange {
@@ -57,8 +60,11 @@ inline constexpr std::array kCommandRanges{
     CommandRange{ID_TOPMOST,              ID_TOPMOST,              Route::kToggleTopmost},
     CommandRange{ID_AUTO_HIDE,            ID_AUTO_HIDE,            Route::kToggleAutoHide},
     CommandRange{ID_MONITOR_CLIPBOARD,    ID_MONITOR_CLIPBOARD,    Route::kToggleClipboardMonitor},
+    CommandRange{ID_ONLINE_DOCUMENTS,     ID_AUTHOR_SITE,          Route::kOpenSupport},
     CommandRange{ID_SCREEN_SAVER,         ID_SCREEN_SAVER,         Route::kStartScreenSaver},
+    CommandRange{ID_ABOUT,                ID_ABOUT,                Route::kAbout},
     CommandRange{ID_EXIT,                 ID_EXIT,                 Route::kExit},
+    CommandRange{ID_HELP_CONTENTS,        ID_HELP_CONTENTS,        Route::kHelp},
 };
 // clang-format on
 
