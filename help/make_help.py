@@ -33,9 +33,9 @@ TAGLINE = "Windows 用デスクトップ ツールバー"
 FIRST_PAGE = "index.html"
 RIGHTS = "Copyright (C) 2026 Dunmere Software. All rights reserved."
 
-# The window's looks, as bits of HTML Help's window type: three panes, the contents follow the page, a tab to search,
-# place and size are remembered.
-WINDOW_STYLE = 0x20 | 0x100 | 0x400 | 0x40000
+# The window's looks, as bits of HTML Help's window type: three panes, the contents follow the page, place and size are
+# remembered. There is no tab to search: the compiler's word list knows no Japanese, so that a search would find nothing.
+WINDOW_STYLE = 0x20 | 0x100 | 0x40000
 # Hide or show the navigation pane, back, forward, home, options, print.
 WINDOW_BUTTONS = 0x2 | 0x4 | 0x8 | 0x40 | 0x1000 | 0x2000
 # Pixels: the navigation pane's width; left, top, right and bottom of the window.
@@ -242,7 +242,7 @@ def project(files):
         f"Default topic={FIRST_PAGE}",
         f"Default Window={WINDOW}",
         f"Title={CAPTION}",
-        "Full-text search=Yes",
+        "Full-text search=No",
         "Language=0x411 Japanese (Japan)",
     ]
     return "\n".join(["[OPTIONS]", *options, "", "[WINDOWS]", f"{WINDOW}={window}", "", "[FILES]", *files, ""])
@@ -277,7 +277,6 @@ def write_sources(sources, commands, folder):
 
 def compile_help(chmcmd, folder, target):
     """Moves the compiled file to its place only when it is whole: the compiler leaves an empty one when it fails."""
-    target.unlink(missing_ok=True)
     run = subprocess.run([chmcmd, f"{PRODUCT}.hhp"], cwd=folder, stdout=subprocess.PIPE, stderr=subprocess.STDOUT)
     compiled = folder / f"{PRODUCT}.chm"
     if run.returncode != 0 or not compiled.is_file() or compiled.stat().st_size == 0:
@@ -288,15 +287,14 @@ def compile_help(chmcmd, folder, target):
     shutil.move(compiled, target)
 
 
-def main():
-    chmcmd, sources, commands, folder, target = sys.argv[1], *map(pathlib.Path, sys.argv[2:])
-    try:
-        write_sources(sources, commands, folder)
-        compile_help(chmcmd, folder, target.resolve())
-    except SourceError as error:
-        target.unlink(missing_ok=True)
-        sys.exit(f"help: {error}")
+def make(chmcmd, sources, commands, folder, target):
+    target.unlink(missing_ok=True)
+    write_sources(sources, commands, folder)
+    compile_help(chmcmd, folder, target.resolve())
 
 
 if __name__ == "__main__":
-    main()
+    try:
+        make(sys.argv[1], *map(pathlib.Path, sys.argv[2:]))
+    except SourceError as error:
+        sys.exit(f"help: {error}")
