@@ -39,8 +39,8 @@ WINDOW_STYLE = 0x20 | 0x100 | 0x40000
 # Hide or show the navigation pane, back, forward, home, options, print.
 WINDOW_BUTTONS = 0x2 | 0x4 | 0x8 | 0x40 | 0x1000 | 0x2000
 # Pixels: the navigation pane's width; left, top, right and bottom of the window.
-PANE_WIDTH = 240
-WINDOW_RECTANGLE = (80, 48, 1000, 720)
+PANE_WIDTH = 290
+WINDOW_RECTANGLE = (32, 40, 1000, 728)
 
 TITLE = re.compile(r"\A<title>(.*?)</title>\s*", re.DOTALL)
 HEADING = re.compile(r'<h([2-4]) id="([\w-]+)">(.*?)</h\1>', re.DOTALL)
