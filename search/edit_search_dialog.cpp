@@ -12,6 +12,7 @@
 #include "framework/centred_message_box.h"
 #include "framework/centring.h"
 #include "framework/dpi.h"
+#include "framework/gdi.h"
 #include "framework/menu_rows.h"
 #include "framework/string_table.h"
 #include "framework/window_text.h"
@@ -61,6 +62,7 @@ CEditSearchDialog::CEditSearchDialog(SearchTool editor, std::wstring searchText,
 bool CEditSearchDialog::OnInitDialog(HWND) {
     ::SetWindowTextW(Handle(), fw::FormatResource(IDS_EDITOR_SEARCH_TITLE, ToolNameOf(editor_)).c_str());
     SetGlyphs();
+    MakeFieldsEqual();
     browseTip_.Create(Control(IDC_BROWSE_SEARCH_FOLDER), fw::LoadText(IDS_PICK_SEARCH_FOLDER));
     menuTip_.Create(Control(IDC_EDIT_FILE_TYPES), fw::LoadText(IDS_EDIT_FILE_TYPES));
     ::EnableWindow(Control(IDC_FUZZY), editor_ == SearchTool::kHidemaru);
@@ -94,6 +96,15 @@ void CEditSearchDialog::SetGlyphs() {
     ShowGlyph(Control(IDC_EDIT_FILE_TYPES), arrow);
     browseGlyph_ = std::move(dots);
     menuGlyph_ = std::move(arrow);
+}
+
+void CEditSearchDialog::MakeFieldsEqual() {
+    // A combo box is as high as its font wants, whatever the template says; on a fine screen that is less than a field.
+    constexpr WPARAM kField = static_cast<WPARAM>(-1);
+    const HWND combo = Control(IDC_FILE_TYPES);
+    const int missing = fw::WindowRect(Control(IDC_SEARCH_FOLDER)).Height() - fw::WindowRect(combo).Height();
+    if (missing > 0)
+        ::SendMessageW(combo, CB_SETITEMHEIGHT, kField, ::SendMessageW(combo, CB_GETITEMHEIGHT, kField, 0) + missing);
 }
 
 void CEditSearchDialog::ShowForm() {

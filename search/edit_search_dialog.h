@@ -64,6 +64,7 @@ private:
     [[nodiscard]] std::wstring TextOf(int id) const;
     void FocusOn(int id);
     void SetGlyphs();
+    void MakeFieldsEqual();
     void ShowForm();
     // Fills the drop-down list; the field keeps its text.
     void ShowFileTypes();
