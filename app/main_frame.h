@@ -7,6 +7,7 @@
 #include <optional>
 #include <string>
 
+#include "about/help_opener.h"
 #include "about/help_session.h"
 #include "app/bar_controls.h"
 #include "app/clipboard_monitor.h"
@@ -49,6 +50,7 @@ struct FramePlaces {
 class CMainFrame final : public fw::Window<CMainFrame>,
                          public controls::BarHost,
                          public search::HistoryDropDownHost,
+                         public about::HelpOpener,
                          private DockedWindow,
                          private fw::MessageFilter {
 public:
@@ -117,6 +119,9 @@ public:
     void BrowseFolder() override;
     // Asks, then empties one history and its box.
     void ClearHistory(search::Box box) override;
+
+    // about::HelpOpener
+    void OpenHelp(std::wstring_view topic, HWND asker) override;
 
 private:
     bool PreTranslate(const MSG& message) override;

@@ -12,6 +12,7 @@
 #include "framework/string_table.h"
 #include "launch/command_entries.h"
 #include "launch/launch_menu.h"
+#include "search/editor_search.h"
 #include "search/logic/process_starter.h"
 #include "search/logic/typed_command.h"
 #include "search/path_pickers.h"
@@ -225,19 +226,28 @@ std::wstring CMainFrame::MenuText(UINT command) const {
     return text;
 }
 
+void CMainFrame::OpenHelp(std::wstring_view, HWND asker) {
+    // The program comes without a help file as yet.
+    fw::ShowProductMessage(asker, fw::LoadText(IDS_HELP_FAILED), MB_ICONEXCLAMATION);
+}
+
 void CMainFrame::ExecuteSearchCommand() {
-    const std::wstring text = controls_.searchBox.Text();
-    const auto outcome = search::ExecuteSearch(
+    std::wstring text = controls_.searchBox.Text();
+    auto outcome = search::ExecuteSearch(
         {.command = currentSearch_, .text = text, .menuName = MenuText(static_cast<UINT>(currentSearch_.Value()))},
         Stores(), encoder_, starter_);
+    if (const auto* const editor = std::get_if<search::EditorSearch>(&outcome)) {
+        const fw::ScopedFlag modal{modalMessageOpen_};
+        outcome = search::RunEditorSearch(Handle(), editor->tool, text, settings_, *this, starter_);
+        // The user may have changed it.
+        if (std::holds_alternative<search::SearchStarted>(outcome)) controls_.searchBox.SetText(text);
+    }
     if (std::holds_alternative<search::SearchStarted>(outcome)) {
         histories_.Of(Box::kSearch).Add(text);
     } else if (const auto* const failed = std::get_if<search::SearchFailed>(&outcome)) {
         ReportError(failed->error);
     } else if (const auto* const refusal = std::get_if<search::Refusal>(&outcome)) {
         if (!refusal->silent) Warn(fw::FormatResource(refusal->messageId, std::wstring_view{refusal->argument}));
-    } else if (const auto* const editor = std::get_if<search::EditorSearch>(&outcome)) {
-        Warn(fw::FormatResource(IDS_TOOL_NOT_FOUND, search::ProgramNameOf(editor->tool)));
     }
 }
 
