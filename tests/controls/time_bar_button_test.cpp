@@ -3,20 +3,13 @@
 #include <gmock/gmock.h>
 
 #include "tests/controls/bar_button_test.h"
+#include "tests/support/fake_clock.h"
 
 namespace korvane::controls {
 namespace {
 
 using test::Canvas;
 using testing::ElementsAreArray;
-
-// A clock that stands still until the test moves it.
-class FakeClock final : public LocalClock {
-public:
-    [[nodiscard]] ClockReading Now() const override { return now; }
-    // 5 March 2026, a Thursday.
-    ClockReading now{2026, 3, 5, 4, 9, 5, 7};
-};
 
 constexpr RECT kRect{0, 0, 100, 32};
 constexpr UINT kId = 2014;
@@ -54,7 +47,7 @@ protected:
         return fw::UniqueFont{::CreateFontIndirectW(&font)};
     }
 
-    FakeClock time;
+    test::FakeClock time;
 };
 
 TEST_F(TimeBarButton, ShowsNothingBeforeItHasAFormat) {
