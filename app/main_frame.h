@@ -276,7 +276,6 @@ private:
 
     // While one of these is set the bar is in use and must not hide.
     bool modalMessageOpen_ = false;
-    bool popupOpen_ = false;
     std::optional<search::Box> openHistory_;
     bool inputBusy_ = false;
 

@@ -132,7 +132,7 @@ void CMainFrame::ToggleClipboardMonitor() {
 
 void CMainFrame::OpenHistory(UINT command) {
     const Box box = command == ID_SEARCH_HISTORY ? Box::kSearch : Box::kCommand;
-    if (popupOpen_) {
+    if (openHistory_) {
         // The other history is still closing; this button was pressed for nothing. Its own stays pressed.
         HistoryButton(box).SetMenuShown(openHistory_ == box);
         return;
@@ -141,7 +141,6 @@ void CMainFrame::OpenHistory(UINT command) {
     RECT onScreen = fw::ToWindows(region);
     ::MapWindowPoints(Handle(), nullptr, reinterpret_cast<POINT*>(&onScreen), 2);
     HistoryButton(box).SetMenuShown(true);
-    popupOpen_ = true;
     openHistory_ = box;
     const HWND opened = search::CDropDownDialog::Open(
         *this, {.owner = Handle(),
@@ -153,7 +152,6 @@ void CMainFrame::OpenHistory(UINT command) {
 }
 
 void CMainFrame::OnDropDownClosed(Box box) {
-    popupOpen_ = false;
     openHistory_.reset();
     lastFocus_ = BoxWindow(box).Handle();
     HistoryButton(box).SetMenuShown(false);

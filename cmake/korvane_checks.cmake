@@ -23,6 +23,12 @@ korvane_check(control_ids ${KORVANE_PYTHON} ${KORVANE_CHECKS}/control_ids.py ${P
 korvane_check(no_machine_paths ${KORVANE_PYTHON} ${KORVANE_CHECKS}/no_machine_paths.py ${PROJECT_SOURCE_DIR})
 korvane_check(system_imports
     ${KORVANE_PYTHON} ${KORVANE_CHECKS}/system_imports.py ${KORVANE_OBJDUMP} $<TARGET_FILE:korvane>)
+find_program(KORVANE_CHMLS chmls REQUIRED)
+korvane_check(help_topics
+    ${KORVANE_PYTHON} ${KORVANE_CHECKS}/help_topics.py ${PROJECT_SOURCE_DIR} ${KORVANE_CHMLS} ${KORVANE_HELP_FILE})
+korvane_check(help_links ${KORVANE_PYTHON} ${KORVANE_CHECKS}/help_links.py ${KORVANE_CHMLS} ${KORVANE_HELP_FILE})
+korvane_check(help_texts
+    ${KORVANE_PYTHON} ${KORVANE_CHECKS}/help_texts.py ${PROJECT_SOURCE_DIR} ${KORVANE_CHMLS} ${KORVANE_HELP_FILE})
 korvane_check(the_checks_themselves ${KORVANE_PYTHON} ${PROJECT_SOURCE_DIR}/tests/checks/checks_test.py)
 
 # logic_is_portable: the host has no windows.h, so what parses here cannot have seen Windows.

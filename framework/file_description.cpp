@@ -63,9 +63,9 @@ std::span<const Translation> TranslationsOf(const std::vector<std::byte>& block)
     return Version().Query<Translation>(block, L"\\VarFileInfo\\Translation", sizeof(Translation));
 }
 
-std::wstring DescriptionIn(const std::vector<std::byte>& block, Translation translation) {
-    const std::wstring name = korvane::base::FormatText(L"\\StringFileInfo\\%04X%04X\\FileDescription",
-                                                        unsigned{translation.language}, unsigned{translation.codePage});
+std::wstring ValueIn(const std::vector<std::byte>& block, Translation translation, std::wstring_view value) {
+    const std::wstring name = korvane::base::FormatText(
+        L"\\StringFileInfo\\%04X%04X\\%s", unsigned{translation.language}, unsigned{translation.codePage}, value);
     // And here in characters, with the zero at the end, if there is one.
     const auto characters = Version().Query<wchar_t>(block, name.c_str(), 1);
     const std::wstring_view text{characters.data(), characters.size()};
@@ -74,18 +74,22 @@ std::wstring DescriptionIn(const std::vector<std::byte>& block, Translation tran
 
 } // namespace
 
-std::wstring FileDescription(const std::wstring& file) {
+std::wstring VersionValue(const std::wstring& file, std::wstring_view name) {
     const std::vector<std::byte> block = Version().Read(file);
     if (block.empty()) return {};
     for (const Translation& translation : TranslationsOf(block))
-        if (std::wstring text = DescriptionIn(block, translation); !text.empty()) return text;
+        if (std::wstring text = ValueIn(block, translation, name); !text.empty()) return text;
     // Some files name no language, or a wrong one, for what is written in English.
     constexpr WORD kEnglish = 0x0409;
     constexpr WORD kUnicode = 1200;
     constexpr WORD kWestern = 1252;
     for (const WORD codePage : {kUnicode, kWestern})
-        if (std::wstring text = DescriptionIn(block, {kEnglish, codePage}); !text.empty()) return text;
+        if (std::wstring text = ValueIn(block, {kEnglish, codePage}, name); !text.empty()) return text;
     return {};
+}
+
+std::wstring FileDescription(const std::wstring& file) {
+    return VersionValue(file, L"FileDescription");
 }
 
 } // namespace fw

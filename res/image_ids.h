@@ -24,3 +24,9 @@
 #define IDP_MENU_ON_LIGHT_150       206
 #define IDP_MENU_ON_DARK_200        207
 #define IDP_MENU_ON_LIGHT_200       208
+
+// The head of the about box: a bitmap at 100 %, images of the type "PNG" above.
+#define IDB_BANNER                  102
+#define IDP_BANNER_125              209
+#define IDP_BANNER_150              210
+#define IDP_BANNER_200              211

@@ -4,7 +4,7 @@ set -euo pipefail
 
 packages=(
     g++-mingw-w64-i686-posix g++-mingw-w64-x86-64-posix cmake ninja-build googletest
-    g++ clang-format clang-tidy python3
+    g++ clang-format clang-tidy python3 fp-utils
     wine wine64 wine32:i386
     xvfb xauth jwm x11-utils imagemagick
     locales fonts-noto-cjk fonts-horai-umefont fonts-dejavu-core

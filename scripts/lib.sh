@@ -134,6 +134,6 @@ install_program() {
     data=$(data_folder "$prefix")
     mkdir -p "$program" "$data"
     cp --remove-destination "$build/app/korvane.exe" "$program/"
-    [ ! -e "$build/help/Korvane.chm" ] || cp --remove-destination "$build/help/Korvane.chm" "$program/"
+    [ ! -e "$build/app/Korvane.chm" ] || cp --remove-destination "$build/app/Korvane.chm" "$program/"
     cp --remove-destination "$build/data/Korvane.dat" "$data/"
 }

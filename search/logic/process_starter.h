@@ -2,6 +2,8 @@
 
 #include <string>
 
+#include "base/shell_result.h"
+
 namespace korvane::search {
 
 // Starts what the user asks for.
@@ -17,13 +19,6 @@ public:
     [[nodiscard]] virtual int Open(const std::wstring& file) = 0;
 };
 
-// The Windows error code for a result of the shell: 0 when it opened something. Its results up to 32 are error codes as
-// they stand, except that it says 0 when memory ran out.
-[[nodiscard]] constexpr unsigned long ErrorOfShell(int result) {
-    constexpr int kLastFailure = 32;
-    constexpr unsigned long kNotEnoughMemory = 8;
-    if (result > kLastFailure) return 0;
-    return result > 0 ? static_cast<unsigned long>(result) : kNotEnoughMemory;
-}
+using base::ErrorOfShell;
 
 } // namespace korvane::search

@@ -7,10 +7,16 @@ import tempfile
 import unittest
 
 sys.dont_write_bytecode = True
-sys.path.insert(0, str(pathlib.Path(__file__).resolve().parents[2] / "scripts" / "checks"))
+TOP = pathlib.Path(__file__).resolve().parents[2]
+sys.path[:0] = [str(TOP / "scripts" / "checks"), str(TOP / "help")]
 
 import control_ids
+import help_file
+import help_links
+import help_texts
+import help_topics
 import include_rules
+import make_help
 import no_machine_paths
 import system_imports
 
@@ -138,6 +144,191 @@ class SystemImports(unittest.TestCase):
 
     def test_a_file_without_imports_is_suspicious(self):
         self.assertNotEqual(system_imports.foreign_imports(""), [])
+
+
+class Help(unittest.TestCase):
+    """A compiled help as the checks see it: made from its files, without the compiler."""
+
+    HEAD = (
+        '<html><head><meta http-equiv="Content-Type" content="text/html; charset=Shift_JIS"><title>題</title>'
+        '<link rel="stylesheet" type="text/css" href="style.css"></head><body>'
+    )
+
+    def help(self, lists=("index.html", "other.html"), **changes):
+        """Two whole pages; a change replaces a page's body, or adds a page."""
+        bodies = {"index": '<a href="other.html#Place">外</a><img src="images/a.png" alt="絵">'}
+        bodies["other"] = '<h2 id="Place">所</h2>' + '<div id="foot"><a href="index.html">前</a></div>'
+        bodies.update(changes)
+        files = {f"{name}.html": f"{self.HEAD}{body}</body></html>".encode("cp932") for name, body in bodies.items()}
+        entries = "".join(f'<param name="Local" value="{address}">' for address in lists).encode("cp932")
+        files |= {"style.css": b"", "images/a.png": b"", "Korvane.hhc": entries, "Korvane.hhk": entries}
+        return help_file.HelpFile(files)
+
+
+class HelpLinks(Help):
+    def found(self, *arguments, **changes):
+        return list(help_links.findings(self.help(*arguments, **changes)))
+
+    def test_a_whole_help_has_no_findings(self):
+        self.assertEqual(self.found(), [])
+
+    def test_a_link_to_a_page_that_is_missing_is_found(self):
+        self.assertIn("other.html: there is no page gone.html", self.found(other='<a href="gone.html">無</a>'))
+
+    def test_a_link_to_a_place_that_is_missing_is_found(self):
+        self.assertEqual(self.found(other=""), ["index.html: there is no Place in other.html"])
+
+    def test_a_missing_image_is_found(self):
+        found = self.found(other='<h2 id="Place">所</h2><img src="images/gone.png" alt="絵">')
+        self.assertEqual(found, ["other.html: there is no image images/gone.png"])
+
+    def test_an_image_on_no_page_is_found(self):
+        found = self.found(index='<a href="other.html">外</a>', other="")
+        self.assertEqual(found, ["images/a.png: is on no page"])
+
+    def test_an_image_without_a_text_in_its_place_is_found(self):
+        self.assertEqual(len(self.found(other='<h2 id="Place">所</h2><img src="images/a.png">')), 1)
+
+    def test_a_page_outside_contents_and_index_is_found(self):
+        found = self.found(["index.html"])
+        self.assertEqual(found, ["other.html: is not in the contents", "other.html: is not in the index"])
+
+    def test_an_entry_that_leads_nowhere_is_found_in_contents_and_index(self):
+        self.assertEqual(len(self.found(["index.html", "other.html", "gone.html"])), 2)
+
+    def test_a_page_that_only_its_neighbours_lead_to_is_found(self):
+        foot = '<img src="images/a.png" alt="絵"><div id="foot"><a href="other.html">次</a></div>'
+        self.assertEqual(self.found(index=foot), ["other.html: cannot be reached from index.html"])
+
+    def test_two_places_whose_names_differ_in_case_only_are_found(self):
+        found = self.found(other='<h2 id="Place">所</h2><h2 id="place">所</h2>')
+        self.assertEqual(found, ["other.html: has two places named place"])
+
+    def test_a_page_without_head_is_found(self):
+        self.HEAD = "<html><body>"
+        self.assertEqual(len(self.found()), 6)
+
+    def test_an_unclosed_element_is_found(self):
+        self.assertNotEqual(self.found(other='<h2 id="Place">所</h2><ul><li>一'), [])
+
+    def test_a_page_in_another_encoding_is_found(self):
+        self.assertEqual(len(help_file.HelpFile({"a.html": "日本語の文".encode("utf-8")}).faults), 1)
+
+
+class HelpTopics(Help):
+    def found(self, *topics):
+        lines = (f'inline constexpr std::wstring_view kTopic{at} = L"{topic}";' for at, topic in enumerate(topics))
+        return list(help_topics.findings("\n".join(lines), self.help()))
+
+    def test_pages_and_places_that_are_there_are_fine(self):
+        self.assertEqual(self.found("index.html", "other.html#Place"), [])
+
+    def test_a_missing_page_and_a_missing_place_are_found(self):
+        self.assertEqual(len(self.found("gone.html", "other.html#Gone", "other.html#place")), 3)
+
+    def test_a_header_without_topics_is_suspicious(self):
+        self.assertEqual(len(self.found()), 1)
+
+
+class HelpTexts(Help):
+    SCRIPT = (
+        'BEGIN\n    MENUITEM "メモ帳(&M)\\tCtrl+Shift+A", ID_A\n    MENUITEM "[&0] 設定...", ID_B\nEND\n'
+        '    IDS_ASK   "[%s] を消去します。\\nよろしいですか？"\n    IDS_PATH_KEY "NobodyReadsThis"\n'
+        '    LTEXT "種類(&E):", IDC_A, 0, 0, 1, 1\n'
+        'BEGIN\n    "A",     ID_A, VIRTKEY, CONTROL, SHIFT\n    VK_LWIN, ID_B, VIRTKEY, CONTROL, ALT\nEND\n'
+    )
+    PAGES = {
+        "index": "メモ帳 設定 種類 [<i>検索ボックス</i>] を消去します。<br>よろしいですか？",
+        "keyboard": "<kbd>Ctrl+Shift+A</kbd><kbd>Ctrl+Alt+Win</kbd>",
+        "placeholders": "&lt;%Search%&gt;",
+    }
+
+    def found(self, **changes):
+        scripts = {"res/a.rc": self.SCRIPT}
+        return list(help_texts.findings(scripts, ["<%Search%>"], self.help(**self.PAGES | changes)))
+
+    def test_a_help_that_tells_everything_has_no_findings(self):
+        self.assertEqual(self.found(), [])
+
+    def test_a_key_that_is_not_told_is_found(self):
+        found = self.found(keyboard="<kbd>Ctrl+Shift+A</kbd>Ctrl+Alt+Win")
+        self.assertEqual(found, ["keyboard.html: does not tell of Ctrl+Alt+Win"])
+
+    def test_a_placeholder_that_is_not_told_is_found(self):
+        self.assertEqual(len(self.found(placeholders="&lt;%search%&gt;")), 1)
+
+    def test_a_menu_text_a_dialog_text_and_a_message_that_are_not_told_are_found(self):
+        self.assertEqual(len(self.found(index="")), 4)
+
+    def test_a_message_in_other_words_is_found(self):
+        self.assertEqual(len(self.found(index=self.PAGES["index"].replace("消去します", "消します"))), 1)
+
+    def test_a_tree_without_texts_is_suspicious(self):
+        self.assertEqual(len(list(help_texts.findings({}, [], self.help()))), 1)
+
+
+class MakeHelp(CheckCase):
+    COMPILER = "#!/bin/sh\nprintf %s '{content}' >Korvane.chm\nexit {status}\n"
+
+    def make(self, compiler_status=0, content="chm", contents="first\n書\n    second\n", **pages):
+        pages = {"first": '<title>一</title>\n<a href="second.html#B"></a>\n', **pages}
+        pages = {"second": '<title>二</title>\n<h2 id="B">い</h2>\n<!-- index: 語|ご -->\n', **pages}
+        self.tree(contents_txt=contents, style_css="", commands_ini="")
+        (self.root / "images").mkdir(exist_ok=True)
+        (self.root / "pages").mkdir(exist_ok=True)
+        for name, text in pages.items():
+            (self.root / "pages" / f"{name}.html").write_text(text, encoding="utf-8")
+        compiler = self.root / "chmcmd"
+        compiler.write_text(self.COMPILER.format(content=content, status=compiler_status), encoding="ascii")
+        compiler.chmod(0o755)
+        self.target = self.root / "out" / "Korvane.chm"
+        make_help.make(compiler, self.root, self.root / "commands.ini", self.root / "made", self.target)
+
+    def made(self, name):
+        return (self.root / "made" / name).read_bytes().decode("cp932")
+
+    def test_a_compiled_file_is_moved_to_its_place(self):
+        self.make()
+        self.assertEqual(self.target.read_text(), "chm")
+
+    def test_a_compiler_that_fails_leaves_nothing(self):
+        self.make()
+        with self.assertRaisesRegex(make_help.SourceError, "217"):
+            self.make(compiler_status=217, content="")
+        self.assertEqual([*self.root.rglob("*.chm")], [])
+
+    def test_an_empty_file_is_a_failure_too(self):
+        with self.assertRaises(make_help.SourceError):
+            self.make(content="")
+        self.assertEqual([*self.root.rglob("*.chm")], [])
+
+    def test_an_empty_link_takes_the_text_that_it_leads_to(self):
+        self.make()
+        self.assertIn('<a href="second.html#B">い</a>', self.made("first.html"))
+
+    def test_a_keyword_leads_to_the_heading_that_it_stands_below(self):
+        self.make()
+        self.assertIn('value="語"', self.made("Korvane.hhk"))
+        self.assertIn('value="second.html#B"', self.made("Korvane.hhk"))
+
+    def test_what_cannot_become_a_help_is_told(self):
+        broken = {
+            "leads to nowhere": {"first": '<title>一</title>\n<a href="gone.html"></a>'},
+            "not begin with its title": {"first": "一"},
+            "does not name third": {"third": "<title>三</title>"},
+            "has no reading": {"second": '<title>二</title>\n<h2 id="B">い</h2>\n<!-- index: 語 -->\n'},
+            "U\\+2014": {"first": "<title>一\u2014</title>"},
+        }
+        for message, pages in broken.items():
+            with self.subTest(message), self.assertRaisesRegex(make_help.SourceError, message):
+                self.make(**pages)
+            for page in self.root.glob("pages/*"):
+                page.unlink()
+
+    def test_the_index_is_in_the_order_of_the_readings(self):
+        words = ["バー", "終了|しゅうりょう", "アイテム", "grep", "はじめ"]
+        keys = [make_help.sort_key(word.partition("|")[2] or word) for word in words]
+        self.assertEqual([word for _, word in sorted(zip(keys, words))], ["grep", "アイテム", words[1], "バー", "はじめ"])
 
 
 if __name__ == "__main__":

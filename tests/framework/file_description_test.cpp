@@ -13,6 +13,20 @@ TEST(FileDescription, IsWhatTheProgramCallsItself) {
     EXPECT_EQ(FileDescription(korvane::settings::ProgramPath().value()), L"Korvane");
 }
 
+TEST(VersionValue, IsWhatTheFileSaysUnderTheName) {
+    const std::wstring program = korvane::settings::ProgramPath().value();
+
+    EXPECT_EQ(VersionValue(program, L"CompanyName"), L"Dunmere Software");
+    EXPECT_EQ(VersionValue(program, L"InternalName"), L"korvane");
+}
+
+TEST(VersionValue, IsEmptyUnderANameThatTheFileDoesNotHave) {
+    const std::wstring program = korvane::settings::ProgramPath().value();
+
+    EXPECT_EQ(VersionValue(program, L"NoSuchValue"), L"");
+    EXPECT_EQ(VersionValue(program, std::wstring(5'000, L'x')), L"");
+}
+
 TEST(FileDescription, IsEmptyForAFileWithoutVersionInformation) {
     const korvane::test::TempFolder folder;
     folder.Write(L"plain.txt", "text");
