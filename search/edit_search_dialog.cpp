@@ -57,9 +57,10 @@ bool NamesFolder(const std::wstring& typed, const std::wstring& folder) {
 
 CEditSearchDialog::CEditSearchDialog(SearchTool editor, std::wstring searchText, settings::ProfileStore& store,
                                      about::HelpOpener& help)
-    : editor_{editor}, store_{store}, help_{help}, answer_{std::move(searchText), {}} {}
+    : editor_{editor}, store_{store}, help_{help}, searchText_{std::move(searchText)} {}
 
 bool CEditSearchDialog::OnInitDialog(HWND) {
+    opened_ = true;
     ::SetWindowTextW(Handle(), fw::FormatResource(IDS_EDITOR_SEARCH_TITLE, ToolNameOf(editor_)).c_str());
     SetGlyphs();
     MakeFieldsEqual();
@@ -71,7 +72,7 @@ bool CEditSearchDialog::OnInitDialog(HWND) {
     fw::CentreWindow(Handle());
 
     // What is still missing is asked for first; otherwise the Enter key is enough.
-    const bool onlyFolderIsMissing = !answer_.text.empty() && form_.folder.empty();
+    const bool onlyFolderIsMissing = !searchText_.empty() && form_.folder.empty();
     FocusOn(onlyFolderIsMissing ? IDC_SEARCH_FOLDER : IDC_SEARCH_TEXT);
     return false;
 }
@@ -108,7 +109,7 @@ void CEditSearchDialog::MakeFieldsEqual() {
 }
 
 void CEditSearchDialog::ShowForm() {
-    ::SetWindowTextW(Control(IDC_SEARCH_TEXT), answer_.text.c_str());
+    ::SetWindowTextW(Control(IDC_SEARCH_TEXT), searchText_.c_str());
     ::SetWindowTextW(Control(IDC_SEARCH_FOLDER), form_.folder.c_str());
     ShowFileTypes();
     ::SetWindowTextW(Control(IDC_FILE_TYPES), form_.fileTypes.Entries().front().c_str());
@@ -153,8 +154,8 @@ void CEditSearchDialog::OnOk() {
     const std::wstring fileTypes = TextOf(IDC_FILE_TYPES);
     form_.folder = folder;
     form_.options = CheckedOptions();
-    answer_.text = TextOf(IDC_SEARCH_TEXT);
-    answer_.arguments = GrepArguments(editor_, form_.options, answer_.text, GrepTarget(form_.folder, fileTypes));
+    searchText_ = TextOf(IDC_SEARCH_TEXT);
+    answer_ = {searchText_, GrepArguments(editor_, form_.options, searchText_, GrepTarget(form_.folder, fileTypes))};
 
     form_.keep = ::IsDlgButtonChecked(Handle(), IDC_SAVE_SEARCH) == BST_CHECKED;
     form_.fileTypes.Use(fileTypes);

@@ -2,6 +2,7 @@
 
 #include <windows.h>
 
+#include <optional>
 #include <string>
 
 #include "about/help_opener.h"
@@ -16,8 +17,7 @@
 
 namespace korvane::search {
 
-// Asks how a text editor is to search for a text: where, in which files and with which options. It ends with IDOK and
-// an answer, or with IDCANCEL.
+// Asks how a text editor is to search for a text: where, in which files and with which options.
 class CEditSearchDialog final : public fw::Dialog<CEditSearchDialog> {
 public:
     static constexpr UINT kTemplate = IDD_EDIT_SEARCH;
@@ -43,8 +43,11 @@ public:
     CEditSearchDialog(SearchTool editor, std::wstring searchText, settings::ProfileStore& store,
                       about::HelpOpener& help);
 
-    // What the user decided; only after IDOK.
-    [[nodiscard]] const EditorSearchAnswer& Answer() const { return answer_; }
+    // What the user decided; empty unless the search was confirmed. The dialog's result would not tell: it is IDOK too
+    // when the program is told to quit while the dialog is open.
+    [[nodiscard]] const std::optional<EditorSearchAnswer>& Answer() const { return answer_; }
+    // False when Windows had no dialog to give.
+    [[nodiscard]] bool WasOpened() const { return opened_; }
 
 private:
     bool OnInitDialog(HWND firstControl);
@@ -74,7 +77,9 @@ private:
     settings::ProfileStore& store_;
     about::HelpOpener& help_;
     EditorSearchForm form_;
-    EditorSearchAnswer answer_;
+    std::wstring searchText_;
+    bool opened_ = false;
+    std::optional<EditorSearchAnswer> answer_;
     fw::UniqueIcon browseGlyph_;
     fw::UniqueIcon menuGlyph_;
     controls::ToolTip browseTip_;

@@ -227,7 +227,7 @@ TEST_F(EditSearchDialog, HandsEachBoxToItsOption) {
 
         std::wstring expected = letters;
         expected[i] = static_cast<wchar_t>(expected[i] + (L'a' - L'A'));
-        EXPECT_EQ(dialog->Answer().arguments.substr(0, 8), L"/g" + expected);
+        EXPECT_EQ(dialog->Answer().value().arguments.substr(0, 8), L"/g" + expected);
     }
 }
 
@@ -243,7 +243,7 @@ TEST_F(EditSearchDialog, SaysThatAFolderIsNotThereAndStaysOpen) {
     EXPECT_EQ(box.Caption(), L"Korvane");
     EXPECT_EQ(box.Text(), L"指定されたフォルダ '" + folder.Path() + L"\\gone\\' が見つかりません。");
     EXPECT_EQ(::GetFocus(), Control(1010));
-    EXPECT_EQ(dialog->Answer().arguments, L"");
+    EXPECT_FALSE(dialog->Answer().has_value());
     EXPECT_EQ(store.log, L"");
 }
 
@@ -256,7 +256,7 @@ TEST_F(EditSearchDialog, TakesAnEmptyFolderForMissing) {
         Command(IDOK);
 
         EXPECT_EQ(box.Count(), 1);
-        EXPECT_EQ(dialog->Answer().arguments, L"");
+        EXPECT_FALSE(dialog->Answer().has_value());
     }
 }
 
@@ -329,7 +329,7 @@ TEST_F(EditSearchDialog, KeepsNothingWhenItIsCancelled) {
     Command(IDCANCEL);
 
     EXPECT_EQ(store.log, L"");
-    EXPECT_EQ(dialog->Answer().arguments, L"");
+    EXPECT_FALSE(dialog->Answer().has_value());
 }
 
 TEST_F(EditSearchDialog, KeepsNoEleventhType) {
@@ -410,7 +410,7 @@ TEST_F(EditSearchDialog, SearchesForNothingWhenToldTo) {
 
     Command(IDOK);
 
-    EXPECT_EQ(dialog->Answer().arguments, L"/fi \"\" /cp 1048576 \"" + folder.Path() + L"\\\"");
+    EXPECT_EQ(dialog->Answer().value().arguments, L"/fi \"\" /cp 1048576 \"" + folder.Path() + L"\\\"");
 }
 
 } // namespace

@@ -19,6 +19,9 @@ namespace {
 // Fills in the dialog of this thread as soon as it is there, and ends it with a button.
 class DialogAnswer {
 public:
+    // In place of a button: the program is told to end.
+    static constexpr int kQuit = -1;
+
     DialogAnswer(std::wstring text, std::wstring folder, int button)
         : text_{std::move(text)}, folder_{std::move(folder)}, button_{button} {
         current_ = this;
@@ -42,7 +45,10 @@ private:
             current_->owner = ::GetWindow(message.hwnd, GW_OWNER);
             ::SetDlgItemTextW(message.hwnd, IDC_SEARCH_TEXT, current_->text_.c_str());
             ::SetDlgItemTextW(message.hwnd, IDC_SEARCH_FOLDER, current_->folder_.c_str());
-            ::PostMessageW(message.hwnd, WM_COMMAND, static_cast<WPARAM>(current_->button_), 0);
+            if (current_->button_ == kQuit)
+                ::PostQuitMessage(7);
+            else
+                ::PostMessageW(message.hwnd, WM_COMMAND, static_cast<WPARAM>(current_->button_), 0);
         }
         return ::CallNextHookEx(nullptr, code, wparam, lparam);
     }
@@ -91,6 +97,20 @@ TEST_F(EditorSearchTest, StartsNothingWhenTheDialogIsCancelled) {
     EXPECT_EQ(dialog.count, 1);
     EXPECT_EQ(text, L"abc");
     EXPECT_EQ(starter.log, L"");
+}
+
+TEST_F(EditorSearchTest, StartsNothingWhenTheProgramEndsMeanwhile) {
+    Install();
+    DialogAnswer dialog{L"changed", folder.Path(), DialogAnswer::kQuit};
+
+    const auto outcome = Run();
+
+    ASSERT_TRUE(std::holds_alternative<Refusal>(outcome));
+    EXPECT_TRUE(std::get<Refusal>(outcome).silent);
+    EXPECT_EQ(dialog.count, 1);
+    EXPECT_EQ(starter.log, L"");
+    EXPECT_EQ(settings.log, L"Settings.EmEditorPath=C:\\E\\EmEditor.exe\n");
+    EXPECT_EQ(Pump(), 7);
 }
 
 TEST_F(EditorSearchTest, ShowsNoDialogForAnEditorThatIsNotThere) {
