@@ -18,6 +18,7 @@
 #include "launch/launch_menu.h"
 #include "search/code_pages.h"
 #include "search/logic/command_selection.h"
+#include "search/search_tools.h"
 #include "settings/logic/data_folder_path.h"
 #include "settings/logic/setting_keys.h"
 #include "settings/logic/window_placement.h"
@@ -60,6 +61,7 @@ void CMainFrame::ShowFirst(int showCommand) {
     clipboard_.Start(Handle());
     launch::BuildLaunchMenu(menus_, settings_);
     GreyUnbuilt();
+    search::DetectSearchTools(settings_);
     versionText_ = about::ReadVersionText();
 }
 

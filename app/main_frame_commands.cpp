@@ -7,12 +7,14 @@
 #include "app/main_frame.h"
 #include "app/screen_saver.h"
 #include "app/session_end.h"
+#include "controls/time_date_dialog.h"
 #include "framework/gdi.h"
 #include "framework/menu_rows.h"
 #include "framework/scoped_flag.h"
 #include "framework/string_table.h"
 #include "launch/command_entries.h"
 #include "launch/launch_menu.h"
+#include "search/editor_search.h"
 #include "search/logic/process_starter.h"
 #include "search/logic/typed_command.h"
 #include "search/path_pickers.h"
@@ -49,6 +51,9 @@ fw::Reply CMainFrame::OnCommand(UINT command) {
         break;
     case Route::kBrowseFolder:
         BrowseFolder();
+        break;
+    case Route::kOpenCalendar:
+        OpenCalendar();
         break;
     case Route::kRunEntry:
         RunEntry(command);
@@ -167,6 +172,15 @@ void CMainFrame::OnDropDownClosed(Box box) {
     HistoryButton(box).SetMenuShown(false);
 }
 
+void CMainFrame::OpenCalendar() {
+    ++openCalendars_;
+    if (!controls::CTimeDateDialog::Open(*this, Handle(), loop_)) --openCalendars_;
+}
+
+void CMainFrame::OnTimeSettingsStarted(INT_PTR shellResult) {
+    ReportStart(shellResult, fw::Centring::kOnOwner);
+}
+
 void CMainFrame::PressHistoryButton(UINT command) {
     docking_.ShowOnDemand();
     const UINT opens = command - kHistoryKeyOffset;
@@ -236,18 +250,23 @@ std::wstring CMainFrame::MenuText(UINT command) const {
 }
 
 void CMainFrame::ExecuteSearchCommand() {
-    const std::wstring text = controls_.searchBox.Text();
-    const auto outcome = search::ExecuteSearch(
+    const std::wstring typed = controls_.searchBox.Text();
+    std::wstring text = typed;
+    auto outcome = search::ExecuteSearch(
         {.command = currentSearch_, .text = text, .menuName = MenuText(static_cast<UINT>(currentSearch_.Value()))},
         Stores(), encoder_, starter_);
+    if (const auto* const editor = std::get_if<search::EditorSearch>(&outcome)) {
+        const fw::ScopedFlag modal{modalMessageOpen_};
+        outcome = search::RunEditorSearch(Handle(), editor->tool, text, settings_, *this, starter_);
+        // What the user made of it in the dialog, also when the editor did not start.
+        if (text != typed) controls_.searchBox.SetText(text);
+    }
     if (std::holds_alternative<search::SearchStarted>(outcome)) {
         histories_.Of(Box::kSearch).Add(text);
     } else if (const auto* const failed = std::get_if<search::SearchFailed>(&outcome)) {
         ReportError(failed->error);
     } else if (const auto* const refusal = std::get_if<search::Refusal>(&outcome)) {
         if (!refusal->silent) Warn(fw::FormatResource(refusal->messageId, std::wstring_view{refusal->argument}));
-    } else if (const auto* const editor = std::get_if<search::EditorSearch>(&outcome)) {
-        Warn(fw::FormatResource(IDS_TOOL_NOT_FOUND, search::ProgramNameOf(editor->tool)));
     }
 }
 

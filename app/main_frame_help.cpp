@@ -10,8 +10,11 @@ namespace korvane::app {
 
 void CMainFrame::OpenHelp(std::wstring_view topic, HWND asker) {
     if (help_.Show(topic, barFont_.Get())) return;
+    const auto tell = [asker] { fw::ShowMessageById(asker, IDS_HELP_FAILED, MB_ICONEXCLAMATION); };
+    // The flag of a dialog is set for as long as it is open, and the end of a scope would clear it.
+    if (asker != Handle()) return tell();
     const fw::ScopedFlag modal{modalMessageOpen_};
-    fw::ShowMessageById(asker, IDS_HELP_FAILED, MB_ICONEXCLAMATION);
+    tell();
 }
 
 void CMainFrame::OnHelp(const fw::Message&) {

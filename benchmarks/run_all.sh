@@ -15,10 +15,17 @@ say 'Writing a search text into an address: median of 11 runs each'
 wine "$build/benchmarks/encode_bench.exe"
 say 'Building and showing the longest menus: 50 openings each, in turns'
 wine "$build/benchmarks/menu_bench.exe"
+say "The calendar pop-up and the clock: 50 openings, 1,000 months, $idle seconds"
+wine "$build/benchmarks/calendar_bench.exe" "$idle"
 
-say 'Docked and hiding: 20 slides each way, then idle'
 key='HKCU\Software\Dunmere Software\Korvane\Settings'
 set_number() { wine reg add "$1" /v "$2" /t REG_DWORD /d "$3" /f >/dev/null; }
+say "The bar with its clock, idle for $idle seconds"
+set_number "$key" ShowTimeBarClock 1
+wine "$build/benchmarks/measure.exe" 1 "$idle" "$bar" Korvane_WndClass
+set_number "$key" ShowTimeBarClock 0
+
+say 'Docked and hiding: 20 slides each way, then idle'
 set_number "$key\WindowPlacement" SaveWindowPlacement 1
 set_number "$key\WindowPlacement" DefaultDesktopBarMode 1
 set_number "$key" DesktopBarAutoHide 1

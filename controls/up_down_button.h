@@ -12,6 +12,8 @@ public:
     CUpDownButton(Direction direction, base::Colour arrow) : direction_{direction}, arrow_{arrow} {}
 
     void SetArrowColour(base::Colour arrow);
+    // Whether a frame tells that it has the keyboard focus. At first it does not: mouse users need no such thing.
+    void SetFocusShown(bool shown);
 
     // For the mix-ins.
     void Paint(HDC dc, const base::Rect& area, const ButtonFacts& facts);
@@ -20,6 +22,7 @@ public:
 private:
     Direction direction_;
     base::Colour arrow_;
+    bool focusShown_ = false;
 };
 
 } // namespace korvane::controls

@@ -122,6 +122,11 @@
 #define IDC_SAVE_SEARCH             1021
 #define IDC_EDIT_FILE_TYPES         1022
 
+// What the menu of its last button does to the list of file types.
+#define ID_ADD_FILE_TYPE            2030
+#define ID_REMOVE_FILE_TYPE         2031
+#define ID_RESTORE_FILE_TYPES       2032
+
 // Global hot keys.
 #define HOTKEY_SHOW_BAR             1000
 #define HOTKEY_LAUNCH_MENU          1001
@@ -194,6 +199,11 @@
 #define IDS_MAIL_NOTE_CAPTION       240
 #define IDS_RIGHTS                  241
 #define IDS_HELP_FAILED             242
+#define IDS_PICK_SEARCH_FOLDER      243
+#define IDS_EDIT_FILE_TYPES         244
+#define IDS_ADD_FILE_TYPE           245
+#define IDS_REMOVE_FILE_TYPE        246
+#define IDS_RESTORE_FILE_TYPES      247
 #define IDS_CONFIRM_EXIT            57665
 
 // clang-format on

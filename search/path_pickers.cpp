@@ -14,9 +14,18 @@ namespace {
 // Characters; as much as a path can have, the terminating zero included.
 constexpr std::size_t kLongestPath = 32768;
 
-int CALLBACK OnBrowserMessage(HWND browser, UINT message, LPARAM, LPARAM title) {
-    // The browser takes no title from its caller, but can be given one as soon as it is there.
-    if (message == BFFM_INITIALIZED) ::SetWindowTextW(browser, reinterpret_cast<const wchar_t*>(title));
+struct BrowserSetup {
+    const std::wstring& title;
+    const std::wstring& start;
+};
+
+int CALLBACK OnBrowserMessage(HWND browser, UINT message, LPARAM, LPARAM data) {
+    // The browser takes neither title nor folder from its caller, but can be given both as soon as it is there.
+    if (message != BFFM_INITIALIZED) return 0;
+    const auto& setup = *reinterpret_cast<const BrowserSetup*>(data);
+    ::SetWindowTextW(browser, setup.title.c_str());
+    if (!setup.start.empty())
+        ::SendMessageW(browser, BFFM_SETSELECTIONW, TRUE, reinterpret_cast<LPARAM>(setup.start.c_str()));
     return 0;
 }
 
@@ -45,7 +54,9 @@ std::optional<std::wstring> PickFile(HWND owner, std::wstring_view filter) {
     return path;
 }
 
-std::optional<std::wstring> PickFolder(HWND owner, const std::wstring& title, const std::wstring& prompt) {
+std::optional<std::wstring> PickFolder(HWND owner, const std::wstring& title, const std::wstring& prompt,
+                                       const std::wstring& start) {
+    const BrowserSetup setup{title, start};
     std::array<wchar_t, MAX_PATH> displayName{};
     BROWSEINFOW request{};
     request.hwndOwner = owner;
@@ -53,7 +64,7 @@ std::optional<std::wstring> PickFolder(HWND owner, const std::wstring& title, co
     request.lpszTitle = prompt.c_str();
     request.ulFlags = BIF_RETURNONLYFSDIRS | BIF_NEWDIALOGSTYLE;
     request.lpfn = &OnBrowserMessage;
-    request.lParam = reinterpret_cast<LPARAM>(title.c_str());
+    request.lParam = reinterpret_cast<LPARAM>(&setup);
     const std::unique_ptr<ITEMIDLIST, FreeTaskMemory> item{::SHBrowseForFolderW(&request)};
     if (!item) return std::nullopt;
 

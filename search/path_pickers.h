@@ -12,7 +12,9 @@ namespace korvane::search {
 // when the user cancels.
 [[nodiscard]] std::optional<std::wstring> PickFile(HWND owner, std::wstring_view filter);
 
-// Lets the user pick a folder of the file system. COM must be initialised on this thread. Empty when the user cancels.
-[[nodiscard]] std::optional<std::wstring> PickFolder(HWND owner, const std::wstring& title, const std::wstring& prompt);
+// Lets the user pick a folder of the file system, beginning with `start` when that is one. COM must be initialised on
+// this thread. Empty when the user cancels.
+[[nodiscard]] std::optional<std::wstring> PickFolder(HWND owner, const std::wstring& title, const std::wstring& prompt,
+                                                     const std::wstring& start = {});
 
 } // namespace korvane::search

@@ -14,17 +14,22 @@ fw::UniqueKey OpenKey(HKEY root, const std::wstring& path, REGSAM access, LSTATU
     return fw::UniqueKey{status == ERROR_SUCCESS ? key : nullptr};
 }
 
-fw::UniqueKey OpenForReading(HKEY root, const std::wstring& path) {
-    LSTATUS status = ERROR_SUCCESS;
-    return OpenKey(root, path, KEY_READ, status);
-}
-
-fw::UniqueKey OpenOrCreate(HKEY root, const std::wstring& path) {
+fw::UniqueKey OpenOrCreate(HKEY root, const std::wstring& path, REGSAM access) {
     HKEY key = nullptr;
-    if (::RegCreateKeyExW(root, path.c_str(), 0, nullptr, REG_OPTION_NON_VOLATILE, KEY_WRITE, nullptr, &key, nullptr) !=
+    if (::RegCreateKeyExW(root, path.c_str(), 0, nullptr, REG_OPTION_NON_VOLATILE, access, nullptr, &key, nullptr) !=
         ERROR_SUCCESS)
         return {};
     return fw::UniqueKey{key};
+}
+
+std::wstring Expanded(const std::wstring& text) {
+    std::wstring expanded(::ExpandEnvironmentStringsW(text.c_str(), nullptr, 0), L'\0');
+    const DWORD length =
+        ::ExpandEnvironmentStringsW(text.c_str(), expanded.data(), static_cast<DWORD>(expanded.size()));
+    // Both lengths count the terminating zero.
+    if (length == 0 || length > expanded.size()) return text;
+    expanded.resize(length - 1);
+    return expanded;
 }
 
 // What is to be deleted and is not there counts as deleted.
@@ -41,15 +46,20 @@ std::wstring RegistryStore::PathOf(std::wstring_view section) const {
     return path += section;
 }
 
+REGSAM RegistryStore::Rights(REGSAM rights) const {
+    return access_.view == RegistryView::k32Bit ? rights | KEY_WOW64_32KEY : rights;
+}
+
 std::optional<RegistryStore::RawValue> RegistryStore::Query(std::wstring_view section, std::wstring_view name) const {
     if (!IsUsableName(section) || !IsUsableName(name)) return std::nullopt;
-    const fw::UniqueKey key = OpenForReading(root_, PathOf(section));
+    LSTATUS status = ERROR_SUCCESS;
+    const fw::UniqueKey key = OpenKey(root_, PathOf(section), Rights(KEY_READ), status);
     if (!key) return std::nullopt;
 
     const std::wstring valueName{name};
     RawValue value{};
     DWORD size = 0;
-    LSTATUS status = ::RegQueryValueExW(key.Get(), valueName.c_str(), nullptr, nullptr, nullptr, &size);
+    status = ::RegQueryValueExW(key.Get(), valueName.c_str(), nullptr, nullptr, nullptr, &size);
     while (status == ERROR_SUCCESS) {
         value.data.resize(size);
         // A null buffer would ask for the size again, so even an empty value is read into something.
@@ -81,7 +91,8 @@ std::wstring RegistryStore::ReadText(std::wstring_view section, std::wstring_vie
     // Nothing makes a writer end the text with a zero or give it an even number of bytes.
     std::wstring text(value->data.size() / sizeof(wchar_t), L'\0');
     std::memcpy(text.data(), value->data.data(), text.size() * sizeof(wchar_t));
-    return std::wstring{UpToZero(text)};
+    text.resize(UpToZero(text).size());
+    return access_.expandTexts && value->type == REG_EXPAND_SZ ? Expanded(text) : text;
 }
 
 std::optional<std::vector<std::byte>> RegistryStore::ReadBinary(std::wstring_view section,
@@ -94,7 +105,7 @@ std::optional<std::vector<std::byte>> RegistryStore::ReadBinary(std::wstring_vie
 bool RegistryStore::Set(std::wstring_view section, std::wstring_view name, DWORD type,
                         std::span<const std::byte> data) {
     if (!IsUsableName(section) || !IsUsableName(name)) return false;
-    const fw::UniqueKey key = OpenOrCreate(root_, PathOf(section));
+    const fw::UniqueKey key = OpenOrCreate(root_, PathOf(section), Rights(KEY_WRITE));
     return key &&
            ::RegSetValueExW(key.Get(), std::wstring{name}.c_str(), 0, type, reinterpret_cast<const BYTE*>(data.data()),
                             static_cast<DWORD>(data.size())) == ERROR_SUCCESS;
@@ -118,7 +129,7 @@ bool RegistryStore::WriteBinary(std::wstring_view section, std::wstring_view nam
 bool RegistryStore::DeleteValue(std::wstring_view section, std::wstring_view name) {
     if (!IsUsableName(section) || !IsUsableName(name)) return false;
     LSTATUS status = ERROR_SUCCESS;
-    const fw::UniqueKey key = OpenKey(root_, PathOf(section), KEY_WRITE, status);
+    const fw::UniqueKey key = OpenKey(root_, PathOf(section), Rights(KEY_WRITE), status);
     if (key) status = ::RegDeleteValueW(key.Get(), std::wstring{name}.c_str());
     return IsGone(status);
 }
@@ -133,7 +144,7 @@ bool RegistryStore::DeleteSection(std::wstring_view section) {
     const std::wstring leaf = hasParent ? path.substr(cut + 1) : path;
 
     LSTATUS status = ERROR_SUCCESS;
-    const fw::UniqueKey key = OpenKey(root_, parent, KEY_WRITE, status);
+    const fw::UniqueKey key = OpenKey(root_, parent, Rights(KEY_WRITE), status);
     if (key) status = ::RegDeleteKeyW(key.Get(), leaf.c_str());
     return IsGone(status);
 }

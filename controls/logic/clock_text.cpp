@@ -25,9 +25,21 @@ std::optional<std::wstring> ClockText(unsigned formatId, std::wstring_view forma
     }
 }
 
-std::wstring ClockTip(const ClockReading& now) {
+std::wstring_view DayOfWeekName(unsigned dayOfWeek) {
     static constexpr std::array<std::wstring_view, 7> kDays{L"日", L"月", L"火", L"水", L"木", L"金", L"土"};
-    return FormatText(L"%u年%u月%u日(%s)", now.year, now.month, now.day, kDays[now.dayOfWeek % kDays.size()]);
+    return kDays[dayOfWeek % kDays.size()];
+}
+
+std::wstring ClockTip(const ClockReading& now) {
+    return FormatText(L"%u年%u月%u日(%s)", now.year, now.month, now.day, DayOfWeekName(now.dayOfWeek));
+}
+
+std::wstring PopUpTime(const ClockReading& now) {
+    return FormatText(L"%02u:%02u:%02u", now.hour, now.minute, now.second);
+}
+
+std::wstring PopUpDate(const ClockReading& now) {
+    return FormatText(L"%u年%u月%u日 %s曜日", now.year, now.month, now.day, DayOfWeekName(now.dayOfWeek));
 }
 
 } // namespace korvane::controls

@@ -43,8 +43,15 @@ inline constexpr unsigned kNoClockFormat = 0xFFFFFFFF;
 [[nodiscard]] std::optional<std::wstring> ClockText(unsigned formatId, std::wstring_view formatText,
                                                     const ClockReading& now);
 
+// One character, Sunday first.
+[[nodiscard]] std::wstring_view DayOfWeekName(unsigned dayOfWeek);
+
 // The full date with the day of the week.
 [[nodiscard]] std::wstring ClockTip(const ClockReading& now);
+
+// What the date/time pop-up shows: the time with seconds, and the date with the day of the week.
+[[nodiscard]] std::wstring PopUpTime(const ClockReading& now);
+[[nodiscard]] std::wstring PopUpDate(const ClockReading& now);
 
 // The clock follows the notification area of the Windows it runs on.
 enum class ClockStyle {

@@ -1,5 +1,8 @@
 #include "search/logic/execute_search.h"
 
+#include <utility>
+
+#include "base/format_text.h"
 #include "res/ids.h"
 
 namespace korvane::search {
@@ -10,13 +13,28 @@ SearchOutcome StartedOrFailed(unsigned long error) {
     return SearchStarted{};
 }
 
+SearchOutcome NotFound(SearchTool tool) {
+    return Refusal{IDS_TOOL_NOT_FOUND, std::wstring{ProgramNameOf(tool)}, false};
+}
+
 } // namespace
 
 SearchOutcome RunEverythingSearch(std::wstring_view commandLine, std::wstring_view text,
                                   const settings::ProfileStore& settings, ProcessStarter& starter) {
-    const std::wstring path = settings.Read(PathSetting(SearchTool::kEverything));
-    if (path.empty()) return Refusal{IDS_TOOL_NOT_FOUND, std::wstring{ProgramNameOf(SearchTool::kEverything)}, false};
-    return StartedOrFailed(starter.StartCommandLine(EverythingCommandLine(commandLine, text, path)));
+    const auto path = ReadToolPath(settings, SearchTool::kEverything);
+    if (!path) return NotFound(SearchTool::kEverything);
+    return StartedOrFailed(starter.StartCommandLine(EverythingCommandLine(commandLine, text, *path)));
+}
+
+SearchOutcome RunEditorSearch(SearchTool tool, std::wstring& text, const settings::ProfileStore& settings,
+                              const AskEditorSearch& ask, ProcessStarter& starter) {
+    const auto path = ReadToolPath(settings, tool);
+    if (!path) return NotFound(tool);
+    auto answer = ask(tool, text);
+    if (!answer) return Refusal{.messageId = 0, .argument = {}, .silent = true};
+    text = std::move(answer->text);
+    return StartedOrFailed(starter.StartCommandLine(
+        base::FormatText(L"\"%s\" %s", std::wstring_view{*path}, std::wstring_view{answer->arguments})));
 }
 
 SearchOutcome ExecuteSearch(const SearchRequest& request, const SearchStores& stores, const SearchTextEncoder& encoder,

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <functional>
+#include <optional>
 #include <string>
 #include <variant>
 
@@ -37,5 +39,20 @@ struct SearchRequest {
 // Starts Everything with a command line of a search command.
 [[nodiscard]] SearchOutcome RunEverythingSearch(std::wstring_view commandLine, std::wstring_view text,
                                                 const settings::ProfileStore& settings, ProcessStarter& starter);
+
+// What the user decided about a search with a text editor.
+struct EditorSearchAnswer {
+    std::wstring text;      // to search for, maybe changed
+    std::wstring arguments; // for the editor
+    friend bool operator==(const EditorSearchAnswer&, const EditorSearchAnswer&) = default;
+};
+// Asks the user; empty when the search was cancelled.
+using AskEditorSearch =
+    std::function<std::optional<EditorSearchAnswer>(SearchTool editor, const std::wstring& searchText)>;
+
+// Asks for the options of a search with a text editor and starts the editor with them. `text` becomes what the user
+// made of it, also when the editor then cannot be started.
+[[nodiscard]] SearchOutcome RunEditorSearch(SearchTool tool, std::wstring& text, const settings::ProfileStore& settings,
+                                            const AskEditorSearch& ask, ProcessStarter& starter);
 
 } // namespace korvane::search

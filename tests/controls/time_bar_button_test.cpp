@@ -2,21 +2,19 @@
 
 #include <gmock/gmock.h>
 
+#include <array>
+#include <optional>
+#include <string>
+#include <tuple>
+
 #include "tests/controls/bar_button_test.h"
+#include "tests/support/fake_clock.h"
 
 namespace korvane::controls {
 namespace {
 
 using test::Canvas;
 using testing::ElementsAreArray;
-
-// A clock that stands still until the test moves it.
-class FakeClock final : public LocalClock {
-public:
-    [[nodiscard]] ClockReading Now() const override { return now; }
-    // 5 March 2026, a Thursday.
-    ClockReading now{2026, 3, 5, 4, 9, 5, 7};
-};
 
 constexpr RECT kRect{0, 0, 100, 32};
 constexpr UINT kId = 2014;
@@ -54,7 +52,7 @@ protected:
         return fw::UniqueFont{::CreateFontIndirectW(&font)};
     }
 
-    FakeClock time;
+    test::FakeClock time;
 };
 
 TEST_F(TimeBarButton, ShowsNothingBeforeItHasAFormat) {
@@ -100,6 +98,20 @@ TEST_F(TimeBarButton, ShowsWhateverStandsUnderAFormatThatIsNoneOfTheFive) {
     EXPECT_EQ(button.Text(), L"[2026|3|5]");
     button.SetFormat(ClockFormatOf(8));
     EXPECT_EQ(button.Text(), L"");
+}
+
+// The setting is not clamped: nothing stands under these identifiers.
+TEST_F(TimeBarButton, ShowsNothingForSettingsWithoutAText) {
+    CTimeBarButton button{bar, Sources(ClockStyle::kTray)};
+    Put(button, kRect, kId);
+    TakeThemeAway(button);
+
+    for (const int setting : {7, -1, 5, 1'000'000, -1'000'000}) {
+        button.SetFormat(kTime);
+        button.SetFormat(ClockFormatOf(setting));
+        EXPECT_EQ(button.Text(), L"") << setting;
+        EXPECT_EQ(Paint(button).Content({0, 0, 100, 32}, Ground()), base::Rect{}) << setting;
+    }
 }
 
 TEST_F(TimeBarButton, KeepsItsTextWhenTheFormatIsTakenAway) {
@@ -222,31 +234,55 @@ TEST_F(TimeBarButton, ReportsAClickToItsParent) {
     EXPECT_EQ(host.CommandCount(kId, BN_CLICKED), 1);
 }
 
-TEST_F(TimeBarButton, ShowsTwoLinesInEightPointsFromTheTopOnWindows7) {
-    CTimeBarButton button{bar, Sources(ClockStyle::kTray)};
-    Put(button, kRect, kId);
-    TakeThemeAway(button);
-    button.SetBarColour(kDarkBar);
+struct FormatCase {
+    const char* name;
+    int setting;
+    const wchar_t* text;
+    bool twoLines;
+};
 
-    button.SetFormat(ClockFormatOf(3));
+using Surroundings = std::tuple<FormatCase, ClockStyle, base::Colour>;
 
-    EXPECT_THAT(Paint(button).Pixels(), ElementsAreArray(Expected(L"09:05:07\r\n2026/03/05", EightPoints().Get(), 0,
-                                                                  ::GetSysColor(COLOR_WINDOW))));
+std::string NameOf(const testing::TestParamInfo<Surroundings>& info) {
+    const auto& [format, style, barColour] = info.param;
+    constexpr std::array kWindows{"OnVista", "OnWindows7", "OnWindows10"};
+    return std::string{format.name} + kWindows[static_cast<std::size_t>(style)] +
+           (barColour == kDarkBar ? "Dark" : "Light");
 }
 
-TEST_F(TimeBarButton, ShowsTwoLinesInTheBarsFontInTheMiddleOnWindows10) {
-    CTimeBarButton button{bar, Sources(ClockStyle::kTrayBarFont)};
+class TimeBarButtonIn : public TimeBarButton, public testing::WithParamInterface<Surroundings> {};
+
+TEST_P(TimeBarButtonIn, ShowsItsTextInTheFontAndAtThePlaceOfItsWindows) {
+    const auto& [format, style, barColour] = GetParam();
+    host.ground = barColour.value;
+    CTimeBarButton button{bar, Sources(style)};
     Put(button, kRect, kId);
     TakeThemeAway(button);
-    button.SetBarColour(kDarkBar);
+    button.SetBarColour(barColour);
 
-    button.SetFormat(ClockFormatOf(3));
+    button.SetFormat(ClockFormatOf(format.setting));
 
+    // Two lines stand in eight points at the top until Windows 10 puts them into the middle in the bar's own font.
+    const bool small = format.twoLines && style != ClockStyle::kTrayBarFont;
+    const fw::UniqueFont eightPoints = EightPoints();
+    const COLORREF ink = ::GetSysColor(barColour == kDarkBar ? COLOR_WINDOW : COLOR_WINDOWTEXT);
     EXPECT_THAT(Paint(button).Pixels(),
-                ElementsAreArray(Expected(L"09:05:07\r\n2026/03/05", bar.BarFont(), {}, ::GetSysColor(COLOR_WINDOW))));
+                ElementsAreArray(Expected(format.text, small ? eightPoints.Get() : bar.BarFont(),
+                                          small ? std::optional{0} : std::nullopt, ink)));
 }
 
-TEST_F(TimeBarButton, ShowsOneLineInTheBarsFontInTheMiddle) {
+INSTANTIATE_TEST_SUITE_P(
+    EveryFormatAndWindows, TimeBarButtonIn,
+    testing::Combine(testing::Values(FormatCase{"Time", 0, L"09:05", false},
+                                     FormatCase{"Seconds", 1, L"09:05:07", false},
+                                     FormatCase{"TimeAndDate", 2, L"09:05\r\n2026/03/05", true},
+                                     FormatCase{"SecondsAndDate", 3, L"09:05:07\r\n2026/03/05", true},
+                                     FormatCase{"Date", 4, L"2026/03/05", false}),
+                     testing::Values(ClockStyle::kPlain, ClockStyle::kTray, ClockStyle::kTrayBarFont),
+                     testing::Values(kDarkBar, kLightBarColour)),
+    NameOf);
+
+TEST_F(TimeBarButton, IsInTheButtonTextColourOnABarOfTheSystemsOwn) {
     CTimeBarButton button{bar, Sources(ClockStyle::kTray)};
     Put(button, kRect, kId);
     TakeThemeAway(button);

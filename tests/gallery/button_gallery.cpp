@@ -25,6 +25,7 @@
 #include "framework/image_list.h"
 #include "res/ids.h"
 #include "tests/support/fake_bar_host.h"
+#include "tests/support/fake_clock.h"
 
 namespace korvane::test {
 namespace {
@@ -34,18 +35,14 @@ using base::Rect;
 using namespace controls;
 
 constexpr int kBarPx = 32;
-constexpr int kBarWidthPx = 980;
+constexpr int kBarWidthPx = 1240;
 constexpr int kLabelPx = 80;
 // The white field on which the drop buttons, the run button and the chooser stand.
 constexpr Rect kField{290, 4, 560, 28};
 
 bool g_classic = false;
 
-class FixedClock final : public LocalClock {
-public:
-    [[nodiscard]] ClockReading Now() const override { return {2026, 3, 5, 4, 9, 5, 7}; }
-};
-const FixedClock g_clock;
+const FakeClock g_clock;
 
 fw::UniqueIcon IconOf(UINT id) {
     return fw::LoadResourceIcon(id, fw::Scale()(kIconPx));
@@ -87,6 +84,9 @@ public:
         clock_.SetBarColour(colour_);
         twoLines_.SetBarColour(colour_);
         bar10_.SetBarColour(colour_);
+        time_.SetBarColour(colour_);
+        secondsAndDate_.SetBarColour(colour_);
+        date_.SetBarColour(colour_);
         const bool light = IsLightBar(colour_);
         Add(mainMenu_, {4, 0, 124, 32}, ID_MAIN_MENU, L"");
         Add(options_, {130, 0, 166, 32}, ID_OPTIONS, L"");
@@ -111,6 +111,12 @@ public:
         twoLines_.SetFormat(kTimeAndDate);
         Add(bar10_, {880, 0, 960, 32}, 5, L"");
         bar10_.SetFormat(kTimeAndDate);
+        Add(time_, {960, 0, 1040, 32}, 6, L"");
+        time_.SetFormat(kTime);
+        Add(secondsAndDate_, {1040, 0, 1140, 32}, 7, L"");
+        secondsAndDate_.SetFormat(kTimeWithSecondsAndDate);
+        Add(date_, {1140, 0, 1240, 32}, 8, L"");
+        date_.SetFormat(kDate);
     }
 
     void PaintRow(HDC dc, const Look& look) {
@@ -179,6 +185,9 @@ private:
     CTimeBarButton clock_{host_, {g_clock, &fw::LoadText, ClockStyle::kTrayBarFont}};
     CTimeBarButton twoLines_{host_, {g_clock, &fw::LoadText, ClockStyle::kTray}};
     CTimeBarButton bar10_{host_, {g_clock, &fw::LoadText, ClockStyle::kTrayBarFont}};
+    CTimeBarButton time_{host_, {g_clock, &fw::LoadText, ClockStyle::kTrayBarFont}};
+    CTimeBarButton secondsAndDate_{host_, {g_clock, &fw::LoadText, ClockStyle::kTray}};
+    CTimeBarButton date_{host_, {g_clock, &fw::LoadText, ClockStyle::kTray}};
     CExitButton exit_;
     std::vector<fw::WindowObject*> buttons_;
 };

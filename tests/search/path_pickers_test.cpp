@@ -20,6 +20,7 @@ namespace {
 std::wstring g_caption;
 std::wstring g_texts;
 std::wstring g_typed;
+bool g_confirms = false;
 int g_ticks = 0;
 
 std::wstring TextOf(HWND window) {
@@ -50,7 +51,7 @@ void CALLBACK AnswerDialog(HWND, UINT, UINT_PTR, DWORD) {
     g_texts.clear();
     ::EnumChildWindows(dialog, &NoteText, 0);
     if (g_typed.empty()) {
-        ::PostMessageW(dialog, WM_COMMAND, IDCANCEL, 0);
+        ::PostMessageW(dialog, WM_COMMAND, g_confirms ? IDOK : IDCANCEL, 0);
         return;
     }
     // The file name's box of the common dialog.
@@ -70,6 +71,7 @@ struct PathPickers : WindowTest {
         g_caption.clear();
         g_texts.clear();
         g_typed.clear();
+        g_confirms = false;
         g_ticks = 0;
         timer = ::SetTimer(nullptr, 0, 50, &AnswerDialog);
     }
@@ -102,4 +104,17 @@ TEST_F(PathPickers, AskForAFolderUnderTheGivenTitle) {
     EXPECT_FALSE(picked.has_value());
     EXPECT_EQ(g_caption, L"フォルダの参照");
     EXPECT_NE(g_texts.find(L"[コマンド入力ボックス] に入力するフォルダ名を指定します。"), std::wstring::npos);
+}
+
+TEST_F(PathPickers, BeginWithTheFolderThatTheyAreGiven) {
+    const TempFolder folder;
+    g_confirms = true;
+
+    EXPECT_EQ(PickFolder(Host(), L"title", L"prompt", folder.Path()), folder.Path());
+}
+
+TEST_F(PathPickers, AskForAFolderWhenTheFirstOneIsGone) {
+    EXPECT_FALSE(PickFolder(Host(), L"title", L"prompt", L"C:\\no such folder\\at all").has_value());
+
+    EXPECT_EQ(g_caption, L"title");
 }

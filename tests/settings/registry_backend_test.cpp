@@ -152,6 +152,39 @@ TEST_F(RegistryStoreTest, ReadsAnExpandableTextUnexpanded) {
     EXPECT_EQ(Text(), L"%windir%\\a");
 }
 
+TEST_F(RegistryStoreTest, ExpandsAnExpandableTextWhenAskedTo) {
+    ::SetEnvironmentVariableW(L"KorvaneTestFolder", std::wstring(2000, L'f').c_str());
+    const RegistryStore expanding{key.Root(), key.Path(), {.expandTexts = true}};
+
+    SetText(REG_EXPAND_SZ, {L"C:\\%KorvaneTestFolder%\\a", 25});
+    EXPECT_EQ(expanding.ReadText(L"Settings", kName), L"C:\\" + std::wstring(2000, L'f') + L"\\a");
+
+    SetText(REG_EXPAND_SZ, {L"%KorvaneTestNothing%\\100%", 27});
+    EXPECT_EQ(expanding.ReadText(L"Settings", kName), L"%KorvaneTestNothing%\\100%");
+
+    SetText(REG_EXPAND_SZ, {L"", 1});
+    EXPECT_EQ(expanding.ReadText(L"Settings", kName, L"fallback"), L"");
+    ::SetEnvironmentVariableW(L"KorvaneTestFolder", nullptr);
+}
+
+TEST_F(RegistryStoreTest, ExpandsNoPlainText) {
+    const RegistryStore expanding{key.Root(), key.Path(), {.expandTexts = true}};
+    SetText(REG_SZ, {L"%windir%\\a", 11});
+
+    EXPECT_EQ(expanding.ReadText(L"Settings", kName), L"%windir%\\a");
+}
+
+TEST_F(RegistryStoreTest, ReadsAndWritesThroughTheViewOf32BitPrograms) {
+    // The current user's values look the same in every view.
+    RegistryStore other{key.Root(), key.Path(), {.view = RegistryView::k32Bit}};
+
+    EXPECT_TRUE(other.WriteText(L"Settings", kName, L"abc"));
+    EXPECT_EQ(other.ReadText(L"Settings", kName), L"abc");
+    EXPECT_EQ(Text(), L"abc");
+    EXPECT_TRUE(other.DeleteSection(L"Settings"));
+    EXPECT_EQ(Text(), L"fallback");
+}
+
 TEST_F(RegistryStoreTest, TakesATextOfAnotherTypeForMissing) {
     SetText(REG_BINARY, {L"abc", 4});
     EXPECT_EQ(Text(), L"fallback");

@@ -80,6 +80,18 @@ TEST(ClockTip, ChangesExactlyAtMidnight) {
     EXPECT_NE(ClockTip(before), ClockTip(after));
 }
 
+TEST(PopUpText, IsTheTimeWithSecondsAndTheDateWithTheDayOfTheWeek) {
+    EXPECT_EQ(PopUpTime(kMorning), L"09:05:07");
+    EXPECT_EQ(PopUpDate(kMorning), L"2026年3月5日 木曜日");
+    EXPECT_EQ(PopUpTime({2026, 11, 15, 0, 23, 59, 59}), L"23:59:59");
+    EXPECT_EQ(PopUpDate({2026, 11, 15, 0, 23, 59, 59}), L"2026年11月15日 日曜日");
+}
+
+TEST(PopUpText, ReachesFromTheFirstToTheLastYearOfTheSystem) {
+    EXPECT_EQ(PopUpDate({1601, 1, 1, 1, 0, 0, 0}), L"1601年1月1日 月曜日");
+    EXPECT_EQ(PopUpDate({30827, 12, 31, 5, 0, 0, 0}), L"30827年12月31日 金曜日");
+}
+
 TEST(ClockStyle, FollowsTheVersionOfWindows) {
     EXPECT_EQ(ClockStyleOf(false, false), ClockStyle::kPlain);
     EXPECT_EQ(ClockStyleOf(true, false), ClockStyle::kTray);

@@ -119,3 +119,84 @@ TEST_F(ExecutingASearch, LeavesAnEditorsSearchToTheCaller) {
     EXPECT_EQ(Execute(5002), SearchOutcome{EditorSearch{SearchTool::kEmEditor}});
     EXPECT_EQ(starter.log, L"");
 }
+
+namespace {
+
+struct EditorSearches : testing::Test {
+    FakeStore settings;
+    FakeProcessStarter starter;
+    std::wstring text = L"abc";
+    std::wstring asked;
+    std::optional<EditorSearchAnswer> answer = EditorSearchAnswer{L"changed", L"/arguments \"x\""};
+
+    SearchOutcome Run(SearchTool tool) {
+        const auto ask = [this](SearchTool editor, const std::wstring& searchText) {
+            asked += std::wstring{ToolNameOf(editor)} + L": " + searchText + L"\n";
+            return answer;
+        };
+        return RunEditorSearch(tool, text, settings, ask, starter);
+    }
+    void Install() {
+        settings.WriteText(L"Settings", L"EmEditorPath", L"C:\\My Tools\\EmEditor.exe");
+        settings.WriteText(L"Settings", L"HidemaruPath", L"C:\\H\\Hidemaru.exe");
+    }
+};
+
+} // namespace
+
+TEST_F(EditorSearches, StartTheQuotedEditorWithTheArguments) {
+    Install();
+
+    EXPECT_EQ(Run(SearchTool::kEmEditor), SearchOutcome{SearchStarted{}});
+    EXPECT_EQ(Run(SearchTool::kHidemaru), SearchOutcome{SearchStarted{}});
+
+    EXPECT_EQ(starter.log, L"start \"C:\\My Tools\\EmEditor.exe\" /arguments \"x\"\n"
+                           L"start \"C:\\H\\Hidemaru.exe\" /arguments \"x\"\n");
+}
+
+TEST_F(EditorSearches, AskWithTheTextAndGiveBackWhatTheUserMadeOfIt) {
+    Install();
+
+    EXPECT_EQ(Run(SearchTool::kHidemaru), SearchOutcome{SearchStarted{}});
+
+    EXPECT_EQ(asked, L"Hidemaru: abc\n");
+    EXPECT_EQ(text, L"changed");
+}
+
+TEST_F(EditorSearches, EndSilentlyWhenTheUserCancels) {
+    Install();
+    answer.reset();
+
+    const auto outcome = Run(SearchTool::kEmEditor);
+
+    const auto* const refusal = std::get_if<Refusal>(&outcome);
+    ASSERT_NE(refusal, nullptr);
+    EXPECT_TRUE(refusal->silent);
+    EXPECT_EQ(text, L"abc");
+    EXPECT_EQ(starter.log, L"");
+}
+
+TEST_F(EditorSearches, SayThatTheEditorIsMissingAndAskNothing) {
+    EXPECT_EQ(Run(SearchTool::kEmEditor), (SearchOutcome{Refusal{IDS_TOOL_NOT_FOUND, L"EmEditor.exe", false}}));
+    EXPECT_EQ(Run(SearchTool::kHidemaru), (SearchOutcome{Refusal{IDS_TOOL_NOT_FOUND, L"Hidemaru.exe", false}}));
+
+    EXPECT_EQ(asked, L"");
+    EXPECT_EQ(starter.log, L"");
+}
+
+TEST_F(EditorSearches, ReportWhyTheEditorDidNotStart) {
+    Install();
+    starter.startError = 2;
+
+    EXPECT_EQ(Run(SearchTool::kEmEditor), SearchOutcome{SearchFailed{2}});
+    EXPECT_EQ(text, L"changed");
+}
+
+TEST_F(EditorSearches, FillInPathAndArgumentsAsTheyAre) {
+    settings.WriteText(L"Settings", L"EmEditorPath", L"C:\\%s\\%d.exe");
+    answer = EditorSearchAnswer{L"", L"%s 100%%"};
+
+    EXPECT_EQ(Run(SearchTool::kEmEditor), SearchOutcome{SearchStarted{}});
+
+    EXPECT_EQ(starter.log, L"start \"C:\\%s\\%d.exe\" %s 100%%\n");
+}

@@ -1,0 +1,94 @@
+#include "controls/calender_window.h"
+
+#include <string>
+#include <string_view>
+
+#include "controls/bar_painting.h"
+#include "controls/logic/calendar_layout.h"
+#include "framework/dpi.h"
+#include "framework/gdi.h"
+
+namespace korvane::controls {
+namespace {
+
+// A pixel's worth at 96 dpi: of the line and of today's frame.
+constexpr int kHairline = 1;
+
+// Fonts may be a little higher than their line; nothing of a character is cut off for that.
+void DrawCentred(HDC dc, std::wstring_view text, const base::Rect& area) {
+    RECT r = fw::ToWindows(area);
+    ::DrawTextW(dc, text.data(), static_cast<int>(text.size()), &r,
+                DT_CENTER | DT_VCENTER | DT_SINGLELINE | DT_NOPREFIX | DT_NOCLIP);
+}
+
+} // namespace
+
+void CCalenderWindow::SetLook(const PopUpLook& look, HFONT font) {
+    look_ = look;
+    font_ = font;
+    dimColor_ = Between(look.groundColor, look.textColor);
+    dimBrush_.Reset(::CreateSolidBrush(fw::ToWindows(dimColor_)));
+    dimPen_.Reset(::CreatePen(PS_SOLID, fw::Scale()(kHairline), fw::ToWindows(dimColor_)));
+    if (Handle()) Redraw();
+}
+
+bool CCalenderWindow::Fill(CalendarPage page, const ClockReading& today, Filling filling) {
+    if (!MayFill(filling, month_.showsToday)) return false;
+    month_ = BuildMonth(page, today);
+    if (Handle()) {
+        ::SetWindowTextW(Handle(), month_.title.c_str());
+        Redraw();
+    }
+    return true;
+}
+
+bool CCalenderWindow::OnEraseBackground(HDC dc) {
+    const base::Rect client = fw::ClientRect(Handle());
+    if (client.Empty()) return true;
+    const PaintBuffer buffer{dc, client};
+    const fw::SavedDc saved{buffer.Dc()};
+    FillFigure(buffer.Dc(), {&client, 1}, look_.ground);
+    Paint(buffer.Dc());
+    return true;
+}
+
+void CCalenderWindow::Paint(HDC dc) const {
+    const base::DpiScale& scale = fw::Scale();
+    ::SelectObject(dc, dimPen_.Get());
+    ::MoveToEx(dc, 0, scale(kRuleTop), nullptr);
+    ::LineTo(dc, CalendarSize(scale).width, scale(kRuleTop));
+
+    ::SelectObject(dc, font_);
+    ::SetBkMode(dc, TRANSPARENT);
+    ::SetTextColor(dc, fw::ToWindows(look_.textColor));
+    for (unsigned day = 0; day < kDaysInWeek; ++day) DrawCentred(dc, DayOfWeekName(day), WeekdayRect(day, scale));
+    DrawCentred(dc, month_.title, TitleRect(scale));
+    for (std::size_t i = 0; i < month_.cells.size(); ++i) PaintCell(dc, i);
+}
+
+void CCalenderWindow::PaintCell(HDC dc, std::size_t index) const {
+    const DayCell& cell = month_.cells[index];
+    if (cell.day == 0) return; // never filled
+    const base::Rect area = CellRect(index, fw::Scale());
+    for (int ring = 0; cell.isToday && ring < fw::Scale()(kHairline); ++ring) {
+        const RECT frame = fw::ToWindows(area.Inset(ring));
+        ::FrameRect(dc, &frame, dimBrush_.Get());
+    }
+    ::SetTextColor(dc, fw::ToWindows(cell.isOtherMonth ? dimColor_ : look_.textColor));
+    DrawCentred(dc, std::to_wstring(cell.day), area);
+}
+
+// What a double click opens is the pop-up's, here as everywhere on it. The pop-up may be gone afterwards.
+void CCalenderWindow::OnLeftDoubleClick(const fw::Message& m) {
+    const HWND parent = ::GetParent(m.window);
+    POINT at{static_cast<short>(LOWORD(m.lparam)), static_cast<short>(HIWORD(m.lparam))};
+    ::MapWindowPoints(m.window, parent, &at, 1);
+    ::SendMessageW(parent, m.id, m.wparam, MAKELPARAM(at.x, at.y));
+}
+
+void CCalenderWindow::OnRightDoubleClick(const fw::Message& m) {
+    month_.showsToday = true;
+    ::PostMessageW(::GetParent(m.window), kReturnToToday, 0, 0);
+}
+
+} // namespace korvane::controls
