@@ -20,6 +20,7 @@
 #include "base/colour.h"
 #include "base/geometry.h"
 #include "controls/bar_host.h"
+#include "controls/time_date_host.h"
 #include "framework/centred_message_box.h"
 #include "framework/handle.h"
 #include "framework/hot_key.h"
@@ -49,6 +50,7 @@ struct FramePlaces {
 // brushes, and is where every command arrives.
 class CMainFrame final : public fw::Window<CMainFrame>,
                          public controls::BarHost,
+                         public controls::TimeDateHost,
                          public about::HelpOpener,
                          public search::HistoryDropDownHost,
                          private DockedWindow,
@@ -109,10 +111,15 @@ public:
     void ExecuteSearchCommand();
     // Starts what stands in the command input box.
     void RunTypedCommand();
-    // controls::BarHost
+    // controls::BarHost and controls::TimeDateHost
     [[nodiscard]] HFONT BarFont() const override { return barFont_.Get(); }
     [[nodiscard]] HMENU Popup(int position) const override;
     UINT TrackPopup(int position, UINT flags, POINT at) override;
+
+    // controls::TimeDateHost
+    [[nodiscard]] HBRUSH BarBrush() const override { return barBrush_.Get(); }
+    void OnTimeSettingsStarted(INT_PTR shellResult) override;
+    void OnTimeDateClosed() override { --openCalendars_; }
 
     // about::HelpOpener
     void OpenHelp(std::wstring_view topic, HWND asker) override;
@@ -213,6 +220,7 @@ private:
     void RunProgram(UINT command);
     // Tells what went wrong when the shell's result says that something did.
     void ReportStart(INT_PTR result, fw::Centring centring);
+    void OpenCalendar();
     void ShowAboutBox();
     void OpenSupport(UINT command);
     void ToggleClipboardMonitor();
@@ -287,6 +295,7 @@ private:
     // While one of these is set the bar is in use and must not hide.
     bool modalMessageOpen_ = false;
     std::optional<search::Box> openHistory_;
+    int openCalendars_ = 0; // more than one while the next opens and the last closes
     bool inputBusy_ = false;
 
     // Cleared only when the bar has to close itself.

@@ -7,6 +7,7 @@
 #include "app/main_frame.h"
 #include "app/screen_saver.h"
 #include "app/session_end.h"
+#include "controls/time_date_dialog.h"
 #include "framework/gdi.h"
 #include "framework/menu_rows.h"
 #include "framework/scoped_flag.h"
@@ -50,6 +51,9 @@ fw::Reply CMainFrame::OnCommand(UINT command) {
         break;
     case Route::kBrowseFolder:
         BrowseFolder();
+        break;
+    case Route::kOpenCalendar:
+        OpenCalendar();
         break;
     case Route::kRunEntry:
         RunEntry(command);
@@ -166,6 +170,15 @@ void CMainFrame::OnDropDownClosed(Box box) {
     openHistory_.reset();
     lastFocus_ = BoxWindow(box).Handle();
     HistoryButton(box).SetMenuShown(false);
+}
+
+void CMainFrame::OpenCalendar() {
+    ++openCalendars_;
+    if (!controls::CTimeDateDialog::Open(*this, Handle(), loop_)) --openCalendars_;
+}
+
+void CMainFrame::OnTimeSettingsStarted(INT_PTR shellResult) {
+    ReportStart(shellResult, fw::Centring::kOnOwner);
 }
 
 void CMainFrame::PressHistoryButton(UINT command) {

@@ -135,7 +135,7 @@ bool CMainFrame::CursorInside() const {
 }
 
 bool CMainFrame::InUse() const {
-    return inputBusy_ || openHistory_ || modalMessageOpen_;
+    return inputBusy_ || openHistory_ || openCalendars_ > 0 || modalMessageOpen_;
 }
 
 WindowId CMainFrame::WindowAbove() const {

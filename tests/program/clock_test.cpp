@@ -1,0 +1,206 @@
+// The clock on the bar and the calendar that it opens, from outside: real clicks and keys.
+
+#include <vector>
+
+#include "framework/gdi.h"
+#include "tests/program/docked_bar.h"
+#include "tests/support/other_window.h"
+
+namespace korvane::test {
+namespace {
+
+constexpr int kOpenCalendar = 2014;
+
+std::vector<HWND> CalendarsOf(const Program& program) {
+    std::vector<HWND> calendars;
+    for (const HWND dialog : WindowsOf(program.Id(), L"#32770"))
+        if (::FindWindowExW(dialog, nullptr, L"CalenderWindow_WndClass", nullptr)) calendars.push_back(dialog);
+    return calendars;
+}
+// Null when there is none at the deadline.
+HWND WaitForCalendar(const Program& program) {
+    HWND calendar = nullptr;
+    WaitUntil([&] {
+        const auto open = CalendarsOf(program);
+        calendar = open.size() == 1 && WaitUntilIdle(open.front()) ? open.front() : nullptr;
+        return calendar != nullptr && ::GetForegroundWindow() == calendar;
+    });
+    return calendar;
+}
+bool WaitForNoCalendar(const Program& program) {
+    return WaitUntil([&] { return CalendarsOf(program).empty(); });
+}
+
+// What a window shows on the screen.
+std::vector<COLORREF> Picture(HWND window) {
+    RECT rect{};
+    ::GetWindowRect(window, &rect);
+    const int width = rect.right - rect.left;
+    const int height = rect.bottom - rect.top;
+    BITMAPINFO format{};
+    format.bmiHeader = {sizeof format.bmiHeader, width, -height, 1, 32, BI_RGB, 0, 0, 0, 0, 0};
+    std::vector<COLORREF> pixels(static_cast<std::size_t>(width) * static_cast<std::size_t>(height));
+    const fw::WindowDc screen{nullptr};
+    const fw::UniqueMemoryDc copy{::CreateCompatibleDC(screen.Get())};
+    const fw::UniqueBitmap bitmap{::CreateCompatibleBitmap(screen.Get(), width, height)};
+    {
+        const fw::SelectedObject selected{copy.Get(), bitmap.Get()};
+        ::BitBlt(copy.Get(), 0, 0, width, height, screen.Get(), rect.left, rect.top, SRCCOPY);
+    }
+    ::GetDIBits(screen.Get(), bitmap.Get(), 0, static_cast<UINT>(height), pixels.data(), &format, DIB_RGB_COLORS);
+    return pixels;
+}
+
+class Clock : public ProgramTest {
+protected:
+    void SetUp() override {
+        ProgramTest::SetUp();
+        CloseWithoutQuestion();
+        WriteSetting(kSettings, L"ShowTimeBarClock", 1);
+    }
+};
+
+TEST_F(Clock, ShowsTheSecondsPassWhenItIsToShowThem) {
+    WriteSetting(kSettings, L"TimeBarClockFormat", 1);
+    const Program program;
+    const HWND bar = program.WaitForBar();
+    ASSERT_NE(bar, nullptr);
+
+    const auto before = Picture(Control(bar, kClock));
+    EXPECT_TRUE(WaitUntil([&] { return Picture(Control(bar, kClock)) != before; }));
+}
+
+TEST_F(Clock, StartsWithAFormatThatThereIsNot) {
+    for (const DWORD format : {7U, 0xFFFFFFFFU}) {
+        WriteSetting(kSettings, L"TimeBarClockFormat", format);
+        const Program program;
+        const HWND bar = program.WaitForBar();
+        ASSERT_NE(bar, nullptr) << format;
+
+        EXPECT_FALSE(program.ShowsBox()) << format;
+        Close(bar);
+        EXPECT_EQ(program.WaitForExit(), 0U) << format;
+    }
+}
+
+TEST_F(Clock, OpensTheCalendarInTheMiddleOfTheScreenWhenItIsClicked) {
+    const Program program;
+    const HWND bar = program.WaitForBar();
+    ASSERT_NE(bar, nullptr);
+
+    Click(Control(bar, kClock));
+
+    const HWND calendar = WaitForCalendar(program);
+    ASSERT_NE(calendar, nullptr);
+    MONITORINFO monitor{};
+    monitor.cbSize = sizeof monitor;
+    ASSERT_TRUE(::GetMonitorInfoW(::MonitorFromWindow(calendar, MONITOR_DEFAULTTONEAREST), &monitor));
+    RECT rect{};
+    ::GetWindowRect(calendar, &rect);
+    EXPECT_EQ(rect.right - rect.left, 320);
+    EXPECT_EQ(rect.bottom - rect.top, 240);
+    EXPECT_EQ(rect.left - monitor.rcWork.left, (monitor.rcWork.right - monitor.rcWork.left - 320) / 2);
+    EXPECT_EQ(rect.top - monitor.rcWork.top, (monitor.rcWork.bottom - monitor.rcWork.top - 240) / 2);
+}
+
+TEST_F(Clock, TheCalendarShowsTheSecondsPass) {
+    const Program program;
+    const HWND bar = program.WaitForBar();
+    ASSERT_NE(bar, nullptr);
+    Command(bar, kOpenCalendar);
+    const HWND calendar = WaitForCalendar(program);
+    ASSERT_NE(calendar, nullptr);
+
+    const auto before = Picture(calendar);
+    EXPECT_TRUE(WaitUntil([&] { return Picture(calendar) != before; }));
+}
+
+TEST_F(Clock, EscapeAndEnterCloseTheCalendar) {
+    const Program program;
+    const HWND bar = program.WaitForBar();
+    ASSERT_NE(bar, nullptr);
+
+    for (const WORD key : {VK_ESCAPE, VK_RETURN}) {
+        Click(Control(bar, kClock));
+        ASSERT_NE(WaitForCalendar(program), nullptr) << key;
+        PressKeys({key});
+        EXPECT_TRUE(WaitForNoCalendar(program)) << key;
+    }
+    EXPECT_TRUE(program.Running());
+}
+
+TEST_F(Clock, AnotherWindowThatComesForwardClosesTheCalendar) {
+    const OtherWindow other{L"別のウィンドウ"};
+    const Program program;
+    const HWND bar = program.WaitForBar();
+    ASSERT_NE(bar, nullptr);
+    Click(Control(bar, kClock));
+    ASSERT_NE(WaitForCalendar(program), nullptr);
+
+    ASSERT_TRUE(other.TakeForeground());
+
+    EXPECT_TRUE(WaitForNoCalendar(program));
+}
+
+TEST_F(Clock, ASecondOneReplacesTheFirst) {
+    const Program program;
+    const HWND bar = program.WaitForBar();
+    ASSERT_NE(bar, nullptr);
+    Command(bar, kOpenCalendar);
+    const HWND first = WaitForCalendar(program);
+    ASSERT_NE(first, nullptr);
+
+    Command(bar, kOpenCalendar);
+
+    EXPECT_TRUE(WaitUntil([&] { return !::IsWindow(first); }));
+    EXPECT_NE(WaitForCalendar(program), nullptr);
+}
+
+TEST_F(Clock, TheBarEndsWithItsCalendarOpen) {
+    const Program program;
+    const HWND bar = program.WaitForBar();
+    ASSERT_NE(bar, nullptr);
+    Command(bar, kOpenCalendar);
+    ASSERT_NE(WaitForCalendar(program), nullptr);
+
+    Close(bar);
+
+    EXPECT_EQ(program.WaitForExit(), 0U);
+}
+
+class ClockOnAHidingBar : public DockedBar {
+protected:
+    void SetUp() override {
+        DockedBar::SetUp();
+        HideAutomatically();
+        WriteSetting(kSettings, L"ShowTimeBarClock", 1);
+        WriteSetting(kSettings, L"DesktopBarAutoHideSecond", 19); // ten seconds: only the test expires the timer
+    }
+};
+
+TEST_F(ClockOnAHidingBar, KeepsItOutWhileTheCalendarIsOpen) {
+    constexpr UINT_PTR kHideCheck = 1;
+    const std::string whole = TopOf(screen_);
+    const std::string strip = TopOf(screen_, 1);
+    const Program program;
+    const HWND bar = program.WaitForBar();
+    ASSERT_NE(bar, nullptr);
+    ASSERT_EQ(PlaceIn(bar, strip), strip);
+    PutMouse(width_ / 2, 0);
+    ASSERT_EQ(PlaceIn(bar, whole), whole);
+    Command(bar, kOpenCalendar);
+    const HWND calendar = WaitForCalendar(program);
+    ASSERT_NE(calendar, nullptr);
+    PutMouse(width_ / 2, height_ - 100);
+
+    ::SendMessageW(bar, WM_TIMER, kHideCheck, 0);
+    EXPECT_EQ(PlaceOf(bar), whole);
+
+    ::PostMessageW(calendar, WM_COMMAND, IDCANCEL, 0);
+    ASSERT_TRUE(WaitForNoCalendar(program));
+    ::SendMessageW(bar, WM_TIMER, kHideCheck, 0);
+    EXPECT_EQ(PlaceIn(bar, strip), strip);
+}
+
+} // namespace
+} // namespace korvane::test
