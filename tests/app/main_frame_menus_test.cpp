@@ -121,8 +121,7 @@ TEST_F(MenusTest, SupportHasItsItemsInTheirOrder) {
 TEST_F(MenusTest, WhatIsNotBuiltYetIsGreyed) {
     Open(MainMenu());
 
-    for (const UINT command : {2009U, 4063U})
-        EXPECT_TRUE(Greyed(command)) << command;
+    for (const UINT command : {2009U, 4063U}) EXPECT_TRUE(Greyed(command)) << command;
     EXPECT_NE(Item(Bar().Popup(POPUP_SEARCH), 5000, false).fState & MFS_GRAYED, 0U);
 }
 
