@@ -2,7 +2,7 @@
 
 #include <climits>
 
-#include "framework/file_description.h"
+#include "framework/version_information.h"
 #include "settings/auto_run.h"
 
 namespace korvane::about {

@@ -8,10 +8,10 @@
 #include <vector>
 
 #include "app/logic/task_menu.h"
-#include "framework/file_description.h"
 #include "framework/handle.h"
 #include "framework/icons.h"
 #include "framework/late_bound.h"
+#include "framework/version_information.h"
 #include "launch/app_menu_bar.h"
 
 namespace korvane::app {

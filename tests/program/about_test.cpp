@@ -5,6 +5,7 @@
 
 #include "tests/program/program_test.h"
 #include "tests/support/moved_system_file.h"
+#include "tests/support/stand_in_program.h"
 
 namespace korvane::test {
 namespace {
@@ -156,11 +157,9 @@ TEST_F(About, SaysWhyTheSystemInformationDoesNotOpen) {
 }
 
 TEST_F(About, OpensTheSystemInformation) {
-    const MovedSystemFile missing{L"msinfo32.exe"};
-    const std::wstring folder = OwnFolder();
-    const std::wstring standIn = folder + L"msinfo32.exe";
-    ASSERT_TRUE(::CopyFileW((recorder::Folder() + L"\\rec.exe").c_str(), standIn.c_str(), FALSE));
-    const Program program{{.searchPath = folder}};
+    const StandInProgram standIn{L"msinfo32.exe"};
+    ASSERT_TRUE(standIn.Installed());
+    const Program program{{.searchPath = StandInProgram::Folder()}};
     const HWND bar = program.WaitForBar();
     ASSERT_NE(bar, nullptr);
     Command(bar, kAbout);
@@ -171,7 +170,6 @@ TEST_F(About, OpensTheSystemInformation) {
 
     EXPECT_THAT(recorder::WaitForCommandLines(1), ElementsAre(HasSubstr(L"msinfo32.exe")));
     EXPECT_TRUE(::IsWindow(box));
-    ::DeleteFileW(standIn.c_str());
 }
 
 TEST_F(About, LeadsToTheMakersSite) {

@@ -5,6 +5,7 @@
 #include "framework/gdi.h"
 #include "tests/program/docked_bar.h"
 #include "tests/support/other_window.h"
+#include "tests/support/stand_in_program.h"
 
 namespace korvane::test {
 namespace {
@@ -126,6 +127,45 @@ TEST_F(Clock, EscapeAndEnterCloseTheCalendar) {
         PressKeys({key});
         EXPECT_TRUE(WaitForNoCalendar(program)) << key;
     }
+    EXPECT_TRUE(program.Running());
+}
+
+TEST_F(Clock, ADoubleClickOnTheCalendarOpensTheDateAndTimeSettings) {
+    const StandInProgram control{L"control.exe"};
+    ASSERT_TRUE(control.Installed());
+    const Program program{{.searchPath = StandInProgram::Folder()}};
+    const HWND bar = program.WaitForBar();
+    ASSERT_NE(bar, nullptr);
+    Click(Control(bar, kClock));
+    const HWND popup = WaitForCalendar(program);
+    ASSERT_NE(popup, nullptr);
+
+    ::PostMessageW(::FindWindowExW(popup, nullptr, L"CalenderWindow_WndClass", nullptr), WM_LBUTTONDBLCLK, MK_LBUTTON,
+                   MAKELPARAM(50, 60));
+
+    EXPECT_THAT(recorder::WaitForCommandLines(1),
+                testing::ElementsAre(testing::EndsWith(L"control.exe\" timedate.cpl")));
+    EXPECT_TRUE(program.Running());
+}
+
+TEST_F(Clock, SaysWhyTheDateAndTimeSettingsDoNotOpen) {
+    const MovedSystemFile missing{L"control.exe"};
+    ASSERT_TRUE(missing.Moved());
+    const Program program;
+    const HWND bar = program.WaitForBar();
+    ASSERT_NE(bar, nullptr);
+    Click(Control(bar, kClock));
+    const HWND popup = WaitForCalendar(program);
+    ASSERT_NE(popup, nullptr);
+
+    ::PostMessageW(popup, WM_LBUTTONDBLCLK, MK_LBUTTON, MAKELPARAM(10, 10));
+
+    const MessageBoxView error = program.WaitForBox(MessageBoxView{popup});
+    ASSERT_TRUE(error);
+    EXPECT_EQ(error.Caption(), L"Korvane");
+    EXPECT_EQ(::GetWindow(error.Handle(), GW_OWNER), bar);
+    EXPECT_TRUE(WaitUntil([&] { return !::IsWindow(popup); }));
+    EXPECT_TRUE(error.Press(IDOK));
     EXPECT_TRUE(program.Running());
 }
 

@@ -1,4 +1,4 @@
-#include "framework/file_description.h"
+#include "framework/version_information.h"
 
 #include <windows.h>
 
