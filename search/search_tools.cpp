@@ -15,6 +15,7 @@ void DetectSearchTools(settings::ProfileStore& settings) {
         machine.emplace_back(HKEY_LOCAL_MACHINE, L"", settings::RegistryAccess{.view = view, .expandTexts = true});
 
     std::vector<const settings::ProfileStore*> views;
+    views.reserve(machine.size());
     for (const settings::RegistryStore& store : machine) views.push_back(&store);
     KeepToolPaths(settings, views);
 }
