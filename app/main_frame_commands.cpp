@@ -250,16 +250,15 @@ std::wstring CMainFrame::MenuText(UINT command) const {
 }
 
 void CMainFrame::ExecuteSearchCommand() {
-    const std::wstring typed = controls_.searchBox.Text();
-    std::wstring text = typed;
+    std::wstring text = controls_.searchBox.Text();
     auto outcome = search::ExecuteSearch(
         {.command = currentSearch_, .text = text, .menuName = MenuText(static_cast<UINT>(currentSearch_.Value()))},
         Stores(), encoder_, starter_);
     if (const auto* const editor = std::get_if<search::EditorSearch>(&outcome)) {
         const fw::ScopedFlag modal{modalMessageOpen_};
         outcome = search::RunEditorSearch(Handle(), editor->tool, text, settings_, *this, starter_);
-        // What the user made of it in the dialog, also when the editor did not start.
-        if (text != typed) controls_.searchBox.SetText(text);
+        // What the user made of it in the dialog.
+        if (std::holds_alternative<search::SearchStarted>(outcome)) controls_.searchBox.SetText(text);
     }
     if (std::holds_alternative<search::SearchStarted>(outcome)) {
         histories_.Of(Box::kSearch).Add(text);

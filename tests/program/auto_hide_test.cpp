@@ -28,10 +28,10 @@ protected:
     static void HideAfter(DWORD index) { WriteSetting(kSettings, L"DesktopBarAutoHideSecond", index); }
     // What a timer's message does, without the wait.
     static void Expire(HWND bar, UINT_PTR timer) { ::SendMessageW(bar, WM_TIMER, timer, 0); }
-    static void Touch(HWND strip) {
+    static void Touch(HWND strip, LONG besideMiddle = 0) {
         RECT rect{};
         ::GetWindowRect(strip, &rect);
-        PutMouse((rect.left + rect.right) / 2, rect.top);
+        PutMouse((rect.left + rect.right) / 2 + besideMiddle, rect.top);
     }
     void TakeTheMouseAway() const { PutMouse(width_ / 2, height_ / 2); }
 
@@ -40,9 +40,14 @@ protected:
         const HWND bar = program.WaitForBar();
         return bar != nullptr && PlaceIn(bar, strip_) == strip_ ? bar : nullptr;
     }
+    // A busy display server can swallow a movement; a user would move the mouse once more, too.
     bool SlideOut(HWND bar) const {
-        Touch(bar);
-        return PlaceIn(bar, whole_) == whole_ && WaitUntilIdle(bar);
+        for (LONG attempt = 0; attempt < 5; ++attempt) {
+            Touch(bar, attempt);
+            const auto out = [&] { return ::IsWindowVisible(bar) && PlaceOf(bar) == whole_; };
+            if (WaitUntil(out, std::chrono::seconds{4})) return WaitUntilIdle(bar);
+        }
+        return false;
     }
 
     const std::string whole_ = TopOf(screen_);
