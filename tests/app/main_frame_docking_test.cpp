@@ -248,3 +248,19 @@ TEST_F(DockedFrameTest, AScreenThatIsWideAgainBeforeTheAnswerLeavesNothingHalfDo
     EXPECT_EQ(test::PumpMessages(), 0);
     EXPECT_EQ(answer.Count(), 1);
 }
+
+// A window manager may hand the bar the foreground when it is shown again; the bar itself must not take it.
+TEST_F(DockedFrameTest, LeavesTheActivationToTheWindowThatHasItWhenItDocksAgain) {
+    StartDocked();
+    ::ShowWindow(Bar().Handle(), SW_SHOWNA);
+    const fw::UniqueHandle<HWND, &::DestroyWindow> other{
+        ::CreateWindowExW(0, L"STATIC", L"other", WS_OVERLAPPEDWINDOW | WS_VISIBLE, 300, 300, 300, 200, nullptr,
+                          nullptr, nullptr, nullptr)};
+    ::SetActiveWindow(other.Get());
+    ASSERT_EQ(::GetActiveWindow(), other.Get());
+
+    Send(app::kShellMessage, ABN_STATECHANGE);
+
+    EXPECT_TRUE(::IsWindowVisible(Bar().Handle()));
+    EXPECT_EQ(::GetActiveWindow(), other.Get());
+}
