@@ -44,7 +44,10 @@ CMainFrame::CMainFrame(fw::MessageLoop& loop, about::HelpSession& help, FramePla
       clipboard_{kClipboardTimer, [this] { return clipboardMonitored_ && !controls_.searchBox.Composing(); },
                  [this](const std::wstring& text) { controls_.searchBox.SetText(text); }} {}
 
-CMainFrame::~CMainFrame() = default;
+CMainFrame::~CMainFrame() {
+    // A loop that was told to quit leaves the window behind, and its pop-ups tell the frame that they are gone.
+    if (Handle()) fw::DestroyOwnedPopUps(Handle());
+}
 
 void CMainFrame::ShowFirst(int showCommand) {
     if (docking_.Docked()) {

@@ -10,6 +10,18 @@ std::unordered_map<HWND, WindowObject*>& Bound() {
     return bound;
 }
 
+struct OwnedPopUp {
+    HWND owner;
+    HWND found;
+};
+
+BOOL CALLBACK FindOwnedPopUp(HWND window, LPARAM parameter) {
+    auto& search = *reinterpret_cast<OwnedPopUp*>(parameter);
+    if (::GetWindow(window, GW_OWNER) != search.owner || !WindowObject::From(window)) return TRUE;
+    search.found = window;
+    return FALSE;
+}
+
 } // namespace
 
 WindowObject::~WindowObject() {
@@ -48,6 +60,15 @@ void WindowObject::DestroyUnbound(WNDPROC procedure) {
     Unbind();
     ::SetWindowLongPtrW(window, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(procedure));
     ::DestroyWindow(window);
+}
+
+void DestroyOwnedPopUps(HWND owner) {
+    // One at a time, for each may take others with it.
+    for (;;) {
+        OwnedPopUp search{owner, nullptr};
+        ::EnumThreadWindows(::GetCurrentThreadId(), &FindOwnedPopUp, reinterpret_cast<LPARAM>(&search));
+        if (!search.found || !::DestroyWindow(search.found)) return;
+    }
 }
 
 Reply WindowObject::Reflect(const Message& m) {

@@ -67,6 +67,10 @@ private:
     HWND window_ = nullptr;
 };
 
+// Destroys the pop-ups of this program that a window of its thread owns. For owners that go before their windows do:
+// what stands behind a pop-up may have something to tell the owner, which must be whole then.
+void DestroyOwnedPopUps(HWND owner);
+
 // Base of a window class T, which declares `static constexpr fw::WindowClass kClass` and `static constexpr auto
 // Messages()`.
 template <class T>

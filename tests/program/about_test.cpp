@@ -24,14 +24,6 @@ constexpr int kVersion = 1004;
 constexpr int kSite = 1005;
 constexpr wchar_t kWindowsKey[] = L"SOFTWARE\\Microsoft\\Windows NT\\CurrentVersion";
 
-// The system's own text for an error, as message boxes show it.
-std::wstring TextOfError(DWORD code) {
-    std::array<wchar_t, 1024> text{};
-    ::FormatMessageW(FORMAT_MESSAGE_FROM_SYSTEM | FORMAT_MESSAGE_IGNORE_INSERTS, nullptr, code, 0, text.data(),
-                     static_cast<DWORD>(text.size()), nullptr);
-    return text.data();
-}
-
 void SetWindowsValue(const wchar_t* name, const std::wstring& text) {
     ::RegSetKeyValueW(HKEY_LOCAL_MACHINE, kWindowsKey, name, REG_SZ, text.c_str(),
                       static_cast<DWORD>((text.size() + 1) * sizeof(wchar_t)));

@@ -208,6 +208,18 @@ TEST_F(Clock, TheBarEndsWithItsCalendarOpen) {
     EXPECT_EQ(program.WaitForExit(), 0U);
 }
 
+TEST_F(Clock, TheBarIsToldToQuitWithItsCalendarOpen) {
+    const Program program;
+    const HWND bar = program.WaitForBar();
+    ASSERT_NE(bar, nullptr);
+    Command(bar, kOpenCalendar);
+    ASSERT_NE(WaitForCalendar(program), nullptr);
+
+    ::PostThreadMessageW(::GetWindowThreadProcessId(bar, nullptr), WM_QUIT, 0, 0);
+
+    EXPECT_EQ(program.WaitForExit(), 0U);
+}
+
 class ClockOnAHidingBar : public DockedBar {
 protected:
     void SetUp() override {

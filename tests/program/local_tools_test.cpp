@@ -104,12 +104,6 @@ protected:
         PressKeys({VK_MENU, letter});
         return WaitUntil([&] { return IsChecked(dialog, id); });
     }
-    static std::wstring SystemText(DWORD error) {
-        wchar_t text[1024]{};
-        ::FormatMessageW(FORMAT_MESSAGE_FROM_SYSTEM | FORMAT_MESSAGE_IGNORE_INSERTS, nullptr, error, 0, text, 1024,
-                         nullptr);
-        return text;
-    }
 
     TempFolder tools;
     TempFolder searched;
@@ -180,7 +174,7 @@ TEST_F(LocalTools, TheSystemSaysWhyARegisteredProgramDoesNotStart) {
     const auto box = program.WaitForBox();
     ASSERT_TRUE(box);
     EXPECT_EQ(box.Caption(), L"Korvane");
-    EXPECT_EQ(box.Text(), SystemText(ERROR_FILE_NOT_FOUND));
+    EXPECT_EQ(box.Text(), TextOfError(ERROR_FILE_NOT_FOUND));
     EXPECT_EQ(box.Icon(), BoxIcon::kWarning);
     ASSERT_TRUE(box.Press(IDOK));
     Close(bar);

@@ -18,14 +18,6 @@ constexpr int kOpenMainMenu = 2010;
 constexpr int kPaint = 3002;
 constexpr int kNotepad = 3001;
 
-// The system's own text for an error, as message boxes show it.
-std::wstring TextOfError(DWORD code) {
-    std::array<wchar_t, 1024> text{};
-    ::FormatMessageW(FORMAT_MESSAGE_FROM_SYSTEM | FORMAT_MESSAGE_IGNORE_INSERTS, nullptr, code, 0, text.data(),
-                     static_cast<DWORD>(text.size()), nullptr);
-    return text.data();
-}
-
 HWND OpenMenu() {
     for (const HWND window : AllWindows(L"#32768"))
         if (::IsWindowVisible(window)) return window;

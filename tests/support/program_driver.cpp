@@ -213,6 +213,13 @@ bool ClickIntoFocus(HWND control) {
     return WaitUntil([&] { return FocusOfThreadOf(control) == control && ::GetForegroundWindow() == top; });
 }
 
+std::wstring TextOfError(DWORD code) {
+    std::array<wchar_t, 1024> text{};
+    ::FormatMessageW(FORMAT_MESSAGE_FROM_SYSTEM | FORMAT_MESSAGE_IGNORE_INSERTS, nullptr, code, 0, text.data(),
+                     static_cast<DWORD>(text.size()), nullptr);
+    return text.data();
+}
+
 std::wstring MessageBoxView::Text() const {
     return TextOf(::GetDlgItem(window_, kBoxTextId));
 }

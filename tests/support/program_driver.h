@@ -45,6 +45,9 @@ void Click(HWND window);
 
 // ---- Message boxes
 
+// The system's own text for an error, as message boxes show it.
+[[nodiscard]] std::wstring TextOfError(DWORD code);
+
 enum class BoxIcon { kNone, kError, kQuestion, kWarning, kInformation };
 
 // A message box on the screen.
