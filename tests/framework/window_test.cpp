@@ -176,6 +176,31 @@ TEST_F(WindowLifeTest, ChildDiesWithItsParent) {
     EXPECT_EQ(log, "destroy;destroy;final;final;");
 }
 
+TEST_F(WindowLifeTest, AnOwnersPopUpsGoBeforeItWhenItAsksForThat) {
+    LoggedWindow owner{log};
+    ASSERT_TRUE(owner.Create({.style = WS_POPUP}));
+    auto* const popUp = new LoggedWindow{log};
+    popUp->deletesItself = true;
+    ASSERT_TRUE(popUp->Create({.style = WS_POPUP, .parent = owner.Handle()}));
+    std::string logOfOwned;
+    LoggedWindow ownedByPopUp{logOfOwned};
+    ASSERT_TRUE(ownedByPopUp.Create({.style = WS_POPUP, .parent = popUp->Handle()}));
+    LoggedWindow another{log};
+    ASSERT_TRUE(another.Create({.style = WS_POPUP}));
+    const HWND foreign =
+        ::CreateWindowExW(0, L"STATIC", L"", WS_POPUP, 0, 0, 0, 0, owner.Handle(), nullptr, nullptr, nullptr);
+    log.clear();
+    logOfOwned.clear();
+
+    DestroyOwnedPopUps(owner.Handle());
+
+    EXPECT_EQ(log, "destroy;final;");
+    EXPECT_EQ(logOfOwned, "destroy;final;");
+    EXPECT_NE(owner.Handle(), nullptr);
+    EXPECT_NE(another.Handle(), nullptr);
+    EXPECT_TRUE(::IsWindow(foreign)) << "which its own object takes care of";
+}
+
 TEST_F(WindowLifeTest, RefusedCreationLeavesNothingBehind) {
     LoggedWindow window{log};
     window.refusesToBeCreated = true;
