@@ -55,7 +55,6 @@ private:
     void OnSite();
     void OnClose(UINT button);
 
-    [[nodiscard]] HWND Control(int id) const { return ::GetDlgItem(Handle(), id); }
     void ShowLicensee();
     void ShowSite();
 

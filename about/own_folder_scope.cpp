@@ -2,7 +2,7 @@
 
 #include <windows.h>
 
-#include "settings/auto_run.h"
+#include "framework/program_path.h"
 
 namespace korvane::about {
 namespace {
@@ -18,7 +18,7 @@ std::wstring CurrentFolder() {
 } // namespace
 
 OwnFolderScope::OwnFolderScope() {
-    const auto program = settings::ProgramPath();
+    const auto program = fw::ProgramPath();
     if (!program) return;
     std::wstring before = CurrentFolder();
     if (::SetCurrentDirectoryW(program->substr(0, program->rfind(L'\\') + 1).c_str())) previous_ = std::move(before);

@@ -2,8 +2,8 @@
 
 #include <climits>
 
+#include "framework/program_path.h"
 #include "framework/version_information.h"
-#include "settings/auto_run.h"
 
 namespace korvane::about {
 
@@ -13,7 +13,7 @@ std::wstring FileVersionOf(const std::wstring& file) {
 
 std::wstring ReadVersionText(const settings::ProfileStore& windowsValues) {
     constexpr int kAddressBits = static_cast<int>(sizeof(void*) * CHAR_BIT);
-    return VersionText(kAddressBits, FileVersionOf(settings::ProgramPath().value_or(std::wstring{})),
+    return VersionText(kAddressBits, FileVersionOf(fw::ProgramPath().value_or(std::wstring{})),
                        ReadWindowsIdentity(windowsValues));
 }
 

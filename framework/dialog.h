@@ -12,6 +12,9 @@ public:
     LRESULT Default(const Message&) override { return 0; }
 
 protected:
+    // A control of the template by its identifier.
+    [[nodiscard]] HWND Control(int id) const { return ::GetDlgItem(Handle(), id); }
+
     [[nodiscard]] INT_PTR RunModal(UINT dialogTemplate, HWND owner);
     [[nodiscard]] bool CreateModeless(UINT dialogTemplate, HWND owner);
 

@@ -63,7 +63,6 @@ private:
     void OnRemoveFileType();
     void OnRestoreFileTypes();
 
-    [[nodiscard]] HWND Control(int id) const { return ::GetDlgItem(Handle(), id); }
     [[nodiscard]] std::wstring TextOf(int id) const;
     void FocusOn(int id);
     void SetGlyphs();

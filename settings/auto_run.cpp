@@ -1,7 +1,5 @@
 #include "settings/auto_run.h"
 
-#include <array>
-
 namespace korvane::settings {
 namespace {
 
@@ -20,13 +18,6 @@ bool AutoRun::Set(std::wstring_view programPath) {
 
 bool AutoRun::Clear() {
     return !IsSet() || store_.DeleteValue(kSection, kName);
-}
-
-std::optional<std::wstring> ProgramPath() {
-    std::array<wchar_t, MAX_PATH> path{};
-    const DWORD length = ::GetModuleFileNameW(nullptr, path.data(), static_cast<DWORD>(path.size()));
-    if (length == 0 || length >= path.size()) return std::nullopt;
-    return std::wstring{path.data(), length};
 }
 
 } // namespace korvane::settings

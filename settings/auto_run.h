@@ -2,7 +2,6 @@
 
 #include <windows.h>
 
-#include <optional>
 #include <string>
 #include <string_view>
 
@@ -31,9 +30,5 @@ public:
 private:
     RegistryStore store_;
 };
-
-// The full path of this program. Empty when it has more than 260 characters, the terminating zero included: cut there,
-// it would name another file.
-[[nodiscard]] std::optional<std::wstring> ProgramPath();
 
 } // namespace korvane::settings

@@ -9,7 +9,7 @@
 
 #include "about/logic/help_topics.h"
 #include "framework/dpi.h"
-#include "settings/auto_run.h"
+#include "framework/program_path.h"
 #include "tests/support/help_recorder_log.h"
 #include "tests/support/window_test.h"
 
@@ -48,7 +48,7 @@ protected:
     }
 
     static fw::UniqueLibrary Recorder() {
-        const std::wstring program = settings::ProgramPath().value();
+        const std::wstring program = fw::ProgramPath().value();
         const std::wstring path = program.substr(0, program.rfind(L'\\') + 1) + KORVANE_HELP_RECORDER;
         fw::UniqueLibrary library{::LoadLibraryW(path.c_str())};
         EXPECT_TRUE(library);

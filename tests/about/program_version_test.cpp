@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include "settings/auto_run.h"
+#include "framework/program_path.h"
 #include "tests/support/fake_store.h"
 #include "tests/support/temp_folder.h"
 
@@ -11,7 +11,7 @@ namespace {
 
 TEST(ProgramVersion, IsTheFileVersionOfTheProgramsFile) {
     // The tests have the program's own resources.
-    EXPECT_EQ(FileVersionOf(settings::ProgramPath().value()), L"1.0.0");
+    EXPECT_EQ(FileVersionOf(fw::ProgramPath().value()), L"1.0.0");
 }
 
 TEST(ProgramVersion, IsEmptyForAFileWithoutVersionInformation) {

@@ -7,9 +7,9 @@
 #include <future>
 #include <thread>
 
+#include "framework/program_path.h"
 #include "framework/windows_version.h"
 #include "res/ids.h"
-#include "settings/auto_run.h"
 #include "tests/support/gdi_objects.h"
 #include "tests/support/solid_icon.h"
 #include "tests/support/wait.h"
@@ -248,7 +248,7 @@ TEST_F(TaskListTest, ReplacesTheListAtEveryRefresh) {
 TEST_F(TaskListTest, NamesTheProgramOfAWindow) {
     const HWND window = Add();
 
-    EXPECT_EQ(ProgramOf(window), settings::ProgramPath());
+    EXPECT_EQ(ProgramOf(window), fw::ProgramPath());
     EXPECT_EQ(ProgramOf(nullptr), L"");
 }
 

@@ -4,6 +4,7 @@
 #include <string>
 
 #include "base/format_text.h"
+#include "framework/program_path.h"
 #include "framework/system_library.h"
 #include "framework/theme.h"
 #include "framework/windows_version.h"
@@ -11,6 +12,13 @@
 
 namespace fw {
 namespace {
+
+TEST(ProgramPath, NamesTheRunningProgram) {
+    const auto path = ProgramPath();
+
+    ASSERT_TRUE(path);
+    EXPECT_TRUE(path->ends_with(L"\\window_tests.exe")) << *path;
+}
 
 TEST(WindowsVersion, IncludesEveryEarlierOne) {
     constexpr std::array kVersions{kWindowsVista, kWindows7, kWindows8, kWindows10};

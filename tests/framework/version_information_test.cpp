@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include "settings/auto_run.h"
+#include "framework/program_path.h"
 #include "tests/support/temp_folder.h"
 
 namespace fw {
@@ -10,18 +10,18 @@ namespace {
 
 TEST(FileDescription, IsWhatTheProgramCallsItself) {
     // The tests have the program's own resources.
-    EXPECT_EQ(FileDescription(korvane::settings::ProgramPath().value()), L"Korvane");
+    EXPECT_EQ(FileDescription(ProgramPath().value()), L"Korvane");
 }
 
 TEST(VersionValue, IsWhatTheFileSaysUnderTheName) {
-    const std::wstring program = korvane::settings::ProgramPath().value();
+    const std::wstring program = ProgramPath().value();
 
     EXPECT_EQ(VersionValue(program, L"CompanyName"), L"Dunmere Software");
     EXPECT_EQ(VersionValue(program, L"InternalName"), L"korvane");
 }
 
 TEST(VersionValue, IsEmptyUnderANameThatTheFileDoesNotHave) {
-    const std::wstring program = korvane::settings::ProgramPath().value();
+    const std::wstring program = ProgramPath().value();
 
     EXPECT_EQ(VersionValue(program, L"NoSuchValue"), L"");
     EXPECT_EQ(VersionValue(program, std::wstring(5'000, L'x')), L"");

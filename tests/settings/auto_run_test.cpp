@@ -62,12 +62,5 @@ TEST_F(AutoRunTest, RefusesAnEmptyPath) {
     EXPECT_FALSE(key.Exists());
 }
 
-TEST(ProgramPath, NamesTheRunningProgram) {
-    const auto path = ProgramPath();
-
-    ASSERT_TRUE(path);
-    EXPECT_TRUE(path->ends_with(L"\\window_tests.exe")) << *path;
-}
-
 } // namespace
 } // namespace korvane::settings
