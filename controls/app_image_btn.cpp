@@ -1,8 +1,6 @@
 #include "controls/app_image_btn.h"
 
-#include <string>
-
-#include "framework/window_text.h"
+#include "framework/placeholder.h"
 
 namespace korvane::controls {
 namespace {
@@ -24,21 +22,8 @@ void CAppImageBtn::SetImages(HIMAGELIST images) {
 }
 
 bool CAppImageBtn::Replace(HWND dialog, int id) {
-    const HWND placeholder = ::GetDlgItem(dialog, id);
-    if (!placeholder) return false;
-    const std::wstring text = fw::WindowText(placeholder);
-    RECT r{};
-    ::GetWindowRect(placeholder, &r);
-    ::MapWindowPoints(nullptr, dialog, reinterpret_cast<POINT*>(&r), 2);
     // The type of the placeholder's button must not stay: it would be mixed with the owner-draw type.
-    const auto style = static_cast<DWORD>(::GetWindowLongPtrW(placeholder, GWL_STYLE)) & ~DWORD{BS_TYPEMASK};
-    const auto font = ::SendMessageW(placeholder, WM_GETFONT, 0, 0);
-    if (!Create({.text = text.c_str(), .rect = r, .style = style, .parent = dialog, .id = static_cast<UINT_PTR>(id)}))
-        return false;
-    ::SendMessageW(Handle(), WM_SETFONT, static_cast<WPARAM>(font), FALSE);
-    ::SetWindowPos(Handle(), placeholder, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
-    ::DestroyWindow(placeholder);
-    return true;
+    return fw::TakePlace(*this, dialog, id, {.without = BS_TYPEMASK});
 }
 
 void CAppImageBtn::Paint(HDC dc, const base::Rect& area, const ButtonFacts& facts) {

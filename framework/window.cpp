@@ -77,6 +77,12 @@ Reply WindowObject::Reflect(const Message& m) {
     case WM_DRAWITEM:
         child = reinterpret_cast<const DRAWITEMSTRUCT*>(m.lparam)->hwndItem;
         break;
+    case WM_MEASUREITEM: {
+        // A menu's items belong to no child.
+        const auto& item = *reinterpret_cast<const MEASUREITEMSTRUCT*>(m.lparam);
+        if (item.CtlType != ODT_MENU) child = ::GetDlgItem(m.window, static_cast<int>(item.CtlID));
+        break;
+    }
     case WM_NOTIFY:
         child = reinterpret_cast<const NMHDR*>(m.lparam)->hwndFrom;
         break;

@@ -11,7 +11,15 @@
 #define IDD_ABOUT                   102
 #define IDD_HISTORY_DROP_DOWN       103
 #define IDD_TIME_DATE               104
+#define IDD_OPTIONS                 105
+#define IDD_OPTIONS_MAIN            106
+#define IDD_OPTIONS_COMMANDS        107
+#define IDD_OPTIONS_LAUNCH          108
 #define IDD_EDIT_SEARCH             109
+#define IDD_ADD_COMMAND             110
+#define IDD_SELECT_ICON             111
+#define IDD_ADD_LAUNCH_ITEM         112
+#define IDD_IMPORT                  113
 
 // Menu pop-ups by position in IDM_BAR.
 #define POPUP_MAIN                  0
@@ -127,6 +135,95 @@
 #define ID_REMOVE_FILE_TYPE         2031
 #define ID_RESTORE_FILE_TYPES       2032
 
+// Options. Its OK button is not IDOK, which is what Windows answers for a dialog that the program's end closes.
+#define IDC_OPTIONS_OK              6
+#define IDC_OPTION_TREE             1023
+#define IDC_PAGE_PLACE              1024
+#define IDC_LOGO_PLACE              1025
+
+// Options, main page. The check boxes 1012 to 1019 stand in the order of their settings.
+#define IDC_PICK_COLOUR             1011
+#define IDC_AUTO_HIDE               1012
+#define IDC_MONITOR_CLIPBOARD       1013
+#define IDC_TOPMOST                 1014
+#define IDC_SAVE_HISTORIES          1015
+#define IDC_EXIT_UNASKED            1016
+#define IDC_CONFIRM_END             1017
+#define IDC_ENABLE_ENTER            1018
+#define IDC_SAVE_PLACEMENT          1019
+#define IDC_AUTO_RUN                1020
+#define IDC_COLOUR_SWATCH           1025
+#define IDC_CLEAR_HISTORIES         1042
+#define IDC_BAR_COLOUR              1044
+#define IDC_BAR_EDGE                1045
+#define IDC_HISTORY_LENGTH          1046
+#define IDC_HISTORY_LENGTH_SPIN     1047
+#define IDC_HISTORY_LENGTH_FIRST    1046  // these are greyed together
+#define IDC_HISTORY_LENGTH_LAST     1050
+#define IDC_HIDE_DELAY_FIRST        1061
+#define IDC_HIDE_DELAY              1063
+#define IDC_HIDE_DELAY_LAST         1063
+#define IDC_SHOW_CLOCK              1064
+#define IDC_CLOCK_FORMAT_LABEL      1065
+#define IDC_CLOCK_FORMAT            1066
+#define IDC_CLOCK_SAMPLE            1067
+#define IDC_TASK_APP_NAMES          1068
+
+// Options, buttons beside a list.
+#define IDC_MOVE_UP                 1030
+#define IDC_MOVE_DOWN               1031
+#define IDC_ADD                     1032
+#define IDC_EDIT                    1033
+#define IDC_DELETE                  1034
+
+// Options, search command page.
+#define IDC_COMMAND_COUNT           1001
+#define IDC_PRIORITY_USER           1012
+#define IDC_STANDARD_COMMANDS       1026
+#define IDC_USER_COMMANDS           1027
+#define IDC_STANDARD_LIST           1028
+#define IDC_USER_LIST               1029
+#define IDC_COPY                    1035
+#define IDC_PASTE                   1036
+#define IDC_COMMAND_DETAILS         1037
+#define IDC_UNCHECK_ALL             1042
+#define IDC_CHECK_ALL               1043
+
+// Editor of a user's search command.
+#define IDC_INSERT_PLACEHOLDER      1032
+#define IDC_PLACEHOLDERS            1038
+#define IDC_COMMAND_NAME            1039
+#define IDC_COMMAND_LINE            1040
+#define IDC_COMMAND_COMMENT         1041
+
+// Options, launch menu page.
+#define IDC_ITEM_COUNT              1048
+#define IDC_BUTTONS_NOTE            1049
+#define IDC_LAUNCH_LIST             1057
+#define IDC_IMPORT                  1058
+
+// Editor of a launch item.
+#define IDC_KEEP_NAME               1012
+#define IDC_PROGRAM                 1051
+#define IDC_ARGUMENTS               1052
+#define IDC_ITEM_NAME               1053
+#define IDC_BROWSE_PROGRAM          1054
+#define IDC_CHANGE_ICON             1055
+#define IDC_WORKING_FOLDER          1059
+#define IDC_BROWSE_WORKING_FOLDER   1060
+
+// Icon picker.
+#define IDC_BROWSE_ICON_FILE        1011
+#define IDC_ICON_LIST_PLACE         1024
+#define IDC_ICON_FILE               1039
+#define IDC_ICON_LIST_LABEL         1048
+#define IDC_ICON_LIST               1056
+
+// Import of launch items.
+#define IDC_IMPORT_SOURCE           1045
+#define IDC_IMPORT_COUNT            1048
+#define IDC_IMPORT_LIST             1057
+
 // Global hot keys.
 #define HOTKEY_SHOW_BAR             1000
 #define HOTKEY_LAUNCH_MENU          1001
@@ -143,12 +240,23 @@
 #define IDS_EVERYTHING_KEY          109
 #define IDS_EMEDITOR_KEY            110
 #define IDS_HIDEMARU_KEY            111
+#define IDS_NO_COMMAND_SELECTED     112
+#define IDS_TOO_MANY_SELECTED       113
 #define IDS_NO_SEARCH_COMMAND       114
+#define IDS_NO_HISTORY_LENGTH       115
+#define IDS_CLEAR_HISTORIES         117
+#define IDS_ITEM_COUNT              118
+#define IDS_DELETE_ITEM             119
+#define IDS_DELETE_ITEM_FAILED      120
+#define IDS_FILE_NOT_FOUND          121
+#define IDS_NOT_EXECUTABLE          122
 #define IDS_FOLDER_NOT_FOUND        123
 #define IDS_MAIL_NOTE               124
 #define IDS_AUTO_HIDE_TAKEN         125
 #define IDS_AUTO_HIDE_FAILED        126
+#define IDS_AMPERSAND_IN_NAME       127
 #define IDS_PRODUCT                 128
+#define IDS_IMPORT_COUNT            129
 #define IDS_CLOCK_TIME              130
 #define IDS_CLOCK_SECONDS           131
 #define IDS_CLOCK_TIME_DATE         132
@@ -204,6 +312,53 @@
 #define IDS_ADD_FILE_TYPE           245
 #define IDS_REMOVE_FILE_TYPE        246
 #define IDS_RESTORE_FILE_TYPES      247
+#define IDS_OPTIONS_CAPTION         248
+#define IDS_OPTIONS_MAIN            249
+#define IDS_OPTIONS_COMMANDS        250
+#define IDS_OPTIONS_LAUNCH          251
+#define IDS_NOT_SAVED               252
+#define IDS_VERB_ADD                253
+#define IDS_VERB_EDIT               254
+
+// Options, main page.
+#define IDS_EDGE_TOP                260
+#define IDS_EDGE_BOTTOM             261
+#define IDS_COLOUR_THEME            262
+#define IDS_COLOUR_SYSTEM           263
+#define IDS_COLOUR_USER             264
+#define IDS_FORMAT_TIME             265
+#define IDS_FORMAT_SECONDS          266
+#define IDS_FORMAT_TIME_DATE        267
+#define IDS_FORMAT_SECONDS_DATE     268
+#define IDS_FORMAT_DATE             269
+#define IDS_PICK_COLOUR             270
+#define IDS_CLEAR_HISTORIES_TIP     271
+
+// Options, search command page.
+#define IDS_STANDARD_COMMANDS       280
+#define IDS_USER_COMMANDS           281
+#define IDS_COMMAND_COUNT           282
+#define IDS_COMMAND_EDITOR_TITLE    283
+
+// Editor of a launch item, and icon picker.
+#define IDS_ITEM_EDITOR_TITLE       310
+#define IDS_NO_ITEM_ICON            311
+#define IDS_BROWSE_PROGRAM          312
+#define IDS_PROGRAM_FILTER          313
+#define IDS_WORKING_FOLDER_TITLE    314
+#define IDS_WORKING_FOLDER_PROMPT   315
+#define IDS_BROWSE_FILE_TIP         316
+#define IDS_ICON_FILE_TITLE         317
+#define IDS_ICON_FILE_FILTER        318
+
+// Import of launch items.
+#define IDS_IMPORT_START_MENU       330
+#define IDS_IMPORT_COMMON_MENU      331
+#define IDS_IMPORT_QUICK_LAUNCH     332
+#define IDS_IMPORT_ELSEWHERE        333
+#define IDS_IMPORT_FOLDER_PROMPT    334
+
+#define IDS_DELETE_COMMAND          1034
 #define IDS_CONFIRM_EXIT            57665
 
 // clang-format on

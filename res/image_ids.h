@@ -14,6 +14,11 @@
 #define IDI_OPTIONS_ON_LIGHT        307   // and dark drawing on a light one
 #define IDI_HELP_ON_DARK            308
 #define IDI_HELP_ON_LIGHT           309
+#define IDI_OPTION_PAGE             310   // stands on the dark strip of the options
+#define IDI_COLOUR                  311   // colour and clearing stand on buttons of the options
+#define IDI_COLOUR_DISABLED         312
+#define IDI_CLEAR_HISTORIES         313
+#define IDI_CLEAR_HISTORIES_DISABLED 314
 
 // Images of the type "PNG": the face of the main menu button, a pair for each display scale in per cent.
 #define IDP_MENU_ON_DARK            201

@@ -8,7 +8,6 @@
 
 #include "about/logic/help_topics.h"
 #include "base/text.h"
-#include "controls/logic/glyph.h"
 #include "framework/centred_message_box.h"
 #include "framework/centring.h"
 #include "framework/dpi.h"
@@ -16,7 +15,6 @@
 #include "framework/menu_rows.h"
 #include "framework/string_table.h"
 #include "framework/window_text.h"
-#include "search/glyph_icon.h"
 #include "search/logic/folder_text.h"
 #include "search/path_pickers.h"
 
@@ -27,25 +25,6 @@ namespace {
 constexpr std::array<int, kGrepOptions.size()> kOptionBoxes{
     IDC_MATCH_CASE, IDC_SUBFOLDERS, IDC_WHOLE_WORDS, IDC_FILE_NAMES_ONLY, IDC_REGULAR_EXPRESSION, IDC_FUZZY,
 };
-
-// Three dots, as on buttons that open another dialog.
-fw::UniqueIcon DotsGlyph(COLORREF colour) {
-    const int dot = fw::Scale()(2);
-    const int step = 2 * dot;
-    std::array<base::Rect, 3> dots{};
-    for (int i = 0; i < 3; ++i) dots[static_cast<std::size_t>(i)] = {i * step, 0, i * step + dot, dot};
-    return GlyphIcon(dots, {2 * step + dot, dot}, colour);
-}
-
-// An arrow down, as on buttons that open a menu.
-fw::UniqueIcon MenuGlyph(COLORREF colour) {
-    const base::Size size = controls::DownArrowSize(fw::Scale());
-    return GlyphIcon(controls::DownArrow({0, 0, size.width, size.height}), size, colour);
-}
-
-void ShowGlyph(HWND button, const fw::UniqueIcon& glyph) {
-    ::SendMessageW(button, BM_SETIMAGE, IMAGE_ICON, reinterpret_cast<LPARAM>(glyph.Get()));
-}
 
 // A field that was left empty would name the root of the current drive once it ends in a backslash, and nobody means
 // that.
@@ -62,10 +41,9 @@ CEditSearchDialog::CEditSearchDialog(SearchTool editor, std::wstring searchText,
 bool CEditSearchDialog::OnInitDialog(HWND) {
     opened_ = true;
     ::SetWindowTextW(Handle(), fw::FormatResource(IDS_EDITOR_SEARCH_TITLE, ToolNameOf(editor_)).c_str());
-    SetGlyphs();
     MakeFieldsEqual();
-    browseTip_.Create(Control(IDC_BROWSE_SEARCH_FOLDER), fw::LoadText(IDS_PICK_SEARCH_FOLDER));
-    menuTip_.Create(Control(IDC_EDIT_FILE_TYPES), fw::LoadText(IDS_EDIT_FILE_TYPES));
+    browse_.Attach(Control(IDC_BROWSE_SEARCH_FOLDER), fw::LoadText(IDS_PICK_SEARCH_FOLDER));
+    fileTypeMenu_.Attach(Control(IDC_EDIT_FILE_TYPES), fw::LoadText(IDS_EDIT_FILE_TYPES));
     ::EnableWindow(Control(IDC_FUZZY), editor_ == SearchTool::kHidemaru);
     form_ = ReadForm(store_, OptionsSetting(editor_));
     ShowForm();
@@ -78,25 +56,15 @@ bool CEditSearchDialog::OnInitDialog(HWND) {
 }
 
 fw::Reply CEditSearchDialog::OnDestroy() {
-    browseTip_.Destroy();
-    menuTip_.Destroy();
+    browse_.Detach();
+    fileTypeMenu_.Detach();
     return fw::kPassOn;
 }
 
 fw::Reply CEditSearchDialog::OnColoursChanged(const fw::Message&) {
-    SetGlyphs();
+    browse_.OnColoursChanged();
+    fileTypeMenu_.OnColoursChanged();
     return fw::kPassOn;
-}
-
-void CEditSearchDialog::SetGlyphs() {
-    const COLORREF colour = ::GetSysColor(COLOR_BTNTEXT);
-    // The old ones go when the buttons have the new ones.
-    auto dots = DotsGlyph(colour);
-    auto arrow = MenuGlyph(colour);
-    ShowGlyph(Control(IDC_BROWSE_SEARCH_FOLDER), dots);
-    ShowGlyph(Control(IDC_EDIT_FILE_TYPES), arrow);
-    browseGlyph_ = std::move(dots);
-    menuGlyph_ = std::move(arrow);
 }
 
 void CEditSearchDialog::MakeFieldsEqual() {

@@ -6,9 +6,8 @@
 #include <string>
 
 #include "about/help_opener.h"
-#include "controls/tool_tip_helper.h"
+#include "controls/glyph_button.h"
 #include "framework/dialog.h"
-#include "framework/handle.h"
 #include "res/ids.h"
 #include "search/logic/editor_search_form.h"
 #include "search/logic/execute_search.h"
@@ -65,7 +64,6 @@ private:
 
     [[nodiscard]] std::wstring TextOf(int id) const;
     void FocusOn(int id);
-    void SetGlyphs();
     void MakeFieldsEqual();
     void ShowForm();
     // Fills the drop-down list; the field keeps its text.
@@ -79,10 +77,8 @@ private:
     std::wstring searchText_;
     bool opened_ = false;
     std::optional<EditorSearchAnswer> answer_;
-    fw::UniqueIcon browseGlyph_;
-    fw::UniqueIcon menuGlyph_;
-    controls::ToolTip browseTip_;
-    controls::ToolTip menuTip_;
+    controls::GlyphButton browse_{&controls::DotsGlyph};
+    controls::GlyphButton fileTypeMenu_{&controls::MenuGlyph};
 };
 
 } // namespace korvane::search

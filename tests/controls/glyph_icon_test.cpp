@@ -1,4 +1,4 @@
-#include "search/glyph_icon.h"
+#include "controls/glyph_icon.h"
 
 #include <gtest/gtest.h>
 
@@ -7,7 +7,7 @@
 #include "framework/gdi.h"
 
 using namespace korvane;
-using namespace korvane::search;
+using namespace korvane::controls;
 
 namespace {
 

@@ -1,10 +1,10 @@
-#include "search/glyph_icon.h"
+#include "controls/glyph_icon.h"
 
 #include <algorithm>
 #include <cstdint>
 #include <vector>
 
-namespace korvane::search {
+namespace korvane::controls {
 
 fw::UniqueIcon GlyphIcon(std::span<const base::Rect> rectangles, base::Size size, COLORREF colour) {
     BITMAPINFO info{};
@@ -39,4 +39,4 @@ fw::UniqueIcon GlyphIcon(std::span<const base::Rect> rectangles, base::Size size
     return fw::UniqueIcon{::CreateIconIndirect(&icon)};
 }
 
-} // namespace korvane::search
+} // namespace korvane::controls
