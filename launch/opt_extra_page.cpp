@@ -249,7 +249,7 @@ void COptExtraPage::UpdateCount() {
 }
 
 void COptExtraPage::FocusList() {
-    ::SendMessageW(::GetAncestor(Handle(), GA_ROOT), WM_NEXTDLGCTL, reinterpret_cast<WPARAM>(list_.Handle()), TRUE);
+    ::SendMessageW(Handle(), WM_NEXTDLGCTL, reinterpret_cast<WPARAM>(list_.Handle()), TRUE);
 }
 
 } // namespace korvane::launch
