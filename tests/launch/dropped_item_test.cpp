@@ -62,7 +62,8 @@ protected:
     // An item is only listed with an icon that can be got again.
     static void ExpectListed(const CLaunchItem& item) {
         test::FakeStore store;
-        SaveList(store, std::span{&item, 1});
+        const CLaunchItem* const listed = &item;
+        EXPECT_TRUE(SaveList(store, std::span{&listed, 1}));
         CLaunchItem again;
         EXPECT_TRUE(again.Load(store, 0, true));
         EXPECT_EQ(again.Format(), item.Format());
