@@ -34,6 +34,8 @@ public:
     // Without an icon file the icon stays what it is, and the index with it.
     void Set(std::wstring path, std::wstring arguments, std::wstring workingFolder, std::wstring name,
              std::optional<std::wstring> iconFile = {}, int iconIndex = kNoIcon);
+    // The icon alone; the one before is destroyed.
+    void SetIcon(std::wstring file, int index);
     void Assign(const CLaunchItem& other);
 
     [[nodiscard]] std::pair<std::wstring, int> GetIconLocation() const { return {iconFile_, iconIndex_}; }

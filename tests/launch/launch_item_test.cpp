@@ -269,6 +269,20 @@ TEST_F(LaunchItemTest, KeepsItsIconWhenItIsSetWithoutAnIconFile) {
     EXPECT_EQ(item.Icon(), before);
 }
 
+TEST_F(LaunchItemTest, TakesAnotherIconAndKeepsTheRest) {
+    CLaunchItem item;
+    item.Set(L"p", L"a", L"f", L"n", items.Icon(L"i.ico", RGB(1, 200, 1)), 0);
+    const std::wstring other = items.Icon(L"other.ico", RGB(1, 1, 200));
+
+    item.SetIcon(other, 0);
+    EXPECT_EQ(Text(item), L"[p][a][f][" + other + L"][0][n]");
+    EXPECT_EQ(test::ColourOf(item.Icon()), static_cast<COLORREF>(RGB(1, 1, 200)));
+
+    item.SetIcon({}, -1);
+    EXPECT_EQ(Text(item), L"[p][a][f][][-1][n]");
+    EXPECT_EQ(item.Icon(), nullptr);
+}
+
 TEST_F(LaunchItemTest, HasNoIconWhenItIsSetToOneThatIsNotThere) {
     CLaunchItem item;
     item.Set(L"p", L"a", L"f", L"n", items.Icon(L"i.ico", RGB(1, 200, 1)), 0);

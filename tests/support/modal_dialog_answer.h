@@ -10,12 +10,15 @@
 
 namespace korvane::test {
 
-// Answers every dialog of Windows that this thread opens, as soon as it has been set up, and remembers the last one's
-// title. `before` is called with the dialog first. One at a time.
+// Answers every dialog that this thread opens, as soon as it has been set up, and remembers the last one's title.
+// `before` is called with the dialog first. One at a time.
 class ModalDialogAnswer {
 public:
     explicit ModalDialogAnswer(int button, std::function<void(HWND)> before = {})
-        : button_{button}, before_{std::move(before)} {
+        : ModalDialogAnswer{kAnyDialog, button, std::move(before)} {}
+    // Only the dialogs that have a certain control.
+    ModalDialogAnswer(int control, int button, std::function<void(HWND)> before = {})
+        : control_{control}, button_{button}, before_{std::move(before)} {
         current_ = this;
         hook_ = ::SetWindowsHookExW(WH_CALLWNDPROCRET, &OnMessage, nullptr, ::GetCurrentThreadId());
     }
@@ -31,11 +34,15 @@ public:
     [[nodiscard]] int Count() const { return count_; }
 
 private:
+    static constexpr int kAnyDialog = 0;
+
     static LRESULT CALLBACK OnMessage(int code, WPARAM wparam, LPARAM lparam) {
         const auto& message = *reinterpret_cast<const CWPRETSTRUCT*>(lparam);
-        if (code == HC_ACTION && message.message == WM_INITDIALOG) current_->Answer(message.hwnd);
+        if (code == HC_ACTION && message.message == WM_INITDIALOG && current_->Meets(message.hwnd))
+            current_->Answer(message.hwnd);
         return ::CallNextHookEx(nullptr, code, wparam, lparam);
     }
+    [[nodiscard]] bool Meets(HWND dialog) const { return control_ == kAnyDialog || ::GetDlgItem(dialog, control_); }
     void Answer(HWND dialog) {
         ++count_;
         caption_ = fw::WindowText(dialog);
@@ -46,6 +53,7 @@ private:
 
     static inline ModalDialogAnswer* current_ = nullptr;
     HHOOK hook_ = nullptr;
+    int control_;
     int button_;
     std::function<void(HWND)> before_;
     int count_ = 0;
