@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <array>
+
 #include "framework/gdi.h"
 #include "tests/support/modal_dialog_answer.h"
 #include "tests/support/window_test.h"

@@ -4,6 +4,7 @@
 
 #include <commdlg.h>
 
+#include <algorithm>
 #include <array>
 #include <memory>
 #include <set>
@@ -17,6 +18,7 @@
 #include "tests/support/fake_store.h"
 #include "tests/support/gdi_objects.h"
 #include "tests/support/message_box_answer.h"
+#include "tests/support/message_count.h"
 #include "tests/support/modal_dialog_answer.h"
 #include "tests/support/refused_window.h"
 #include "tests/support/registry_test.h"
@@ -756,6 +758,45 @@ TEST_F(OptMainPage, StandsOnTheColourOfWindows) {
     EXPECT_EQ(GroundOf(WM_CTLCOLORDLG, page->Handle()), window);
     EXPECT_EQ(GroundOf(WM_CTLCOLORBTN, Control(1011)), window);
     for (const int id : {1012, 1061, 1049}) EXPECT_EQ(GroundOf(WM_CTLCOLORSTATIC, Control(id)), window) << id;
+}
+
+TEST_F(OptMainPage, PassesNewSystemColoursOnToTheArrows) {
+    Open();
+    const test::MessageCount told{Control(1047), WM_SYSCOLORCHANGE};
+
+    Send(page->Handle(), WM_SYSCOLORCHANGE);
+
+    EXPECT_EQ(told.Count(), 1);
+}
+
+TEST_F(OptMainPage, IsPaintedAnewInNewSystemColours) {
+    Open();
+    ::ShowWindow(page->Handle(), SW_SHOWNOACTIVATE);
+    ::ShowWindow(Host(), SW_SHOWNOACTIVATE);
+    Pump();
+    ::ValidateRect(Control(1067), nullptr);
+    ASSERT_FALSE(::GetUpdateRect(Control(1067), nullptr, FALSE));
+
+    Send(page->Handle(), WM_SYSCOLORCHANGE);
+
+    for (const int id : {1067, 1011, 1025, 1012}) EXPECT_TRUE(::GetUpdateRect(Control(id), nullptr, FALSE)) << id;
+}
+
+TEST_F(OptMainPage, PaintsTheSwatchAnewForEachChoice) {
+    Open();
+    ::ShowWindow(page->Handle(), SW_SHOWNOACTIVATE);
+    ::ShowWindow(Host(), SW_SHOWNOACTIVATE);
+    ::UpdateWindow(Control(1025));
+    const auto shown = [&] {
+        ::UpdateWindow(Control(1025));
+        const fw::WindowDc dc{Control(1025)};
+        return ::GetPixel(dc.Get(), 5, 5);
+    };
+    EXPECT_EQ(shown(), RGB(0x10, 0x20, 0x30));
+
+    Choose(1044, 0);
+
+    EXPECT_EQ(shown(), RGB(159, 22, 106));
 }
 
 TEST_F(OptMainPage, LeavesGreyedFieldsGrey) {
