@@ -159,8 +159,12 @@
 #define IDC_HISTORY_LENGTH          1046
 #define IDC_HISTORY_LENGTH_SPIN     1047
 #define IDC_HISTORY_LENGTH_FIRST    1046  // these are greyed together
+#define IDC_HISTORY_LENGTH_LABEL    1048
+#define IDC_HISTORY_LENGTH_LEAD     1049
+#define IDC_HISTORY_LENGTH_UNIT     1050
 #define IDC_HISTORY_LENGTH_LAST     1050
 #define IDC_HIDE_DELAY_FIRST        1061
+#define IDC_HIDE_DELAY_UNIT         1062
 #define IDC_HIDE_DELAY              1063
 #define IDC_HIDE_DELAY_LAST         1063
 #define IDC_SHOW_CLOCK              1064

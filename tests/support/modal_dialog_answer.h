@@ -3,18 +3,22 @@
 #include <windows.h>
 
 #include <functional>
+#include <string>
 #include <utility>
 
-#include "framework/message_map.h"
+#include "framework/window_text.h"
 
 namespace korvane::test {
 
-// Answers every dialog of this thread that has a certain control: once it is set up, `fill` gets its window, then the
-// button is pressed. One at a time.
+// Answers every dialog that this thread opens, as soon as it has been set up, and remembers the last one's title.
+// `before` is called with the dialog first. One at a time.
 class ModalDialogAnswer {
 public:
-    ModalDialogAnswer(int control, int button, std::function<void(HWND)> fill = {})
-        : control_{control}, button_{button}, fill_{std::move(fill)} {
+    explicit ModalDialogAnswer(int button, std::function<void(HWND)> before = {})
+        : ModalDialogAnswer{kAnyDialog, button, std::move(before)} {}
+    // Only the dialogs that have a certain control.
+    ModalDialogAnswer(int control, int button, std::function<void(HWND)> before = {})
+        : control_{control}, button_{button}, before_{std::move(before)} {
         current_ = this;
         hook_ = ::SetWindowsHookExW(WH_CALLWNDPROCRET, &OnMessage, nullptr, ::GetCurrentThreadId());
     }
@@ -25,25 +29,36 @@ public:
         current_ = nullptr;
     }
 
+    [[nodiscard]] const std::wstring& Caption() const { return caption_; }
+    [[nodiscard]] HWND Owner() const { return owner_; }
     [[nodiscard]] int Count() const { return count_; }
 
 private:
+    static constexpr int kAnyDialog = 0;
+
     static LRESULT CALLBACK OnMessage(int code, WPARAM wparam, LPARAM lparam) {
         const auto& message = *reinterpret_cast<const CWPRETSTRUCT*>(lparam);
-        if (code == HC_ACTION && message.message == WM_INITDIALOG && ::GetDlgItem(message.hwnd, current_->control_)) {
-            ++current_->count_;
-            if (current_->fill_) current_->fill_(message.hwnd);
-            ::PostMessageW(message.hwnd, WM_COMMAND, static_cast<WPARAM>(current_->button_), 0);
-        }
+        if (code == HC_ACTION && message.message == WM_INITDIALOG && current_->Meets(message.hwnd))
+            current_->Answer(message.hwnd);
         return ::CallNextHookEx(nullptr, code, wparam, lparam);
+    }
+    [[nodiscard]] bool Meets(HWND dialog) const { return control_ == kAnyDialog || ::GetDlgItem(dialog, control_); }
+    void Answer(HWND dialog) {
+        ++count_;
+        caption_ = fw::WindowText(dialog);
+        owner_ = ::GetWindow(dialog, GW_OWNER);
+        if (before_) before_(dialog);
+        ::PostMessageW(dialog, WM_COMMAND, static_cast<WPARAM>(button_), 0);
     }
 
     static inline ModalDialogAnswer* current_ = nullptr;
     HHOOK hook_ = nullptr;
     int control_;
     int button_;
+    std::function<void(HWND)> before_;
     int count_ = 0;
-    std::function<void(HWND)> fill_;
+    HWND owner_ = nullptr;
+    std::wstring caption_;
 };
 
 } // namespace korvane::test
