@@ -53,8 +53,7 @@ void CAddCommandDialog::MakeBoxes() {
     // Where Windows refuses a box the template's own stays, which can do the most of it.
     for (const auto& [box, id] : boxes) static_cast<void>(fw::TakePlace(box, Handle(), id));
     ::SendMessageW(Control(IDC_COMMAND_NAME), EM_SETLIMITTEXT, kLongestName, 0);
-    // 0 lifts the limit of 32,767 characters that typing and pasting otherwise have.
-    ::SendMessageW(Control(IDC_COMMAND_LINE), EM_SETLIMITTEXT, 0, 0);
+    ::SendMessageW(Control(IDC_COMMAND_LINE), EM_SETLIMITTEXT, kLongestLine, 0);
     ::SendMessageW(Control(IDC_COMMAND_COMMENT), EM_SETLIMITTEXT, kLongestComment, 0);
 }
 
@@ -84,6 +83,11 @@ void CAddCommandDialog::OnInsertPlaceholder() {
     const HWND box = Control(IDC_COMMAND_LINE);
     const auto length = static_cast<std::size_t>(::GetWindowTextLengthW(box));
     const TextEdit edit = InsertionOf(kPlaceholders[*chosen], length, SelectedPart(box));
+    if (length - (edit.part.last - edit.part.first) + edit.text.size() > kLongestLine) {
+        // As the box itself does when nothing more can be typed.
+        ::MessageBeep(MB_OK);
+        return;
+    }
     SelectPart(box, edit.part);
     ::SendMessageW(box, EM_REPLACESEL, TRUE, reinterpret_cast<LPARAM>(std::wstring{edit.text}.c_str()));
     // Writing goes on behind the placeholder; the focus that comes would select all.

@@ -2,6 +2,7 @@
 
 #include <windows.h>
 
+#include <cstddef>
 #include <optional>
 #include <string>
 
@@ -17,8 +18,10 @@ namespace korvane::search {
 class CAddCommandDialog final : public fw::Dialog<CAddCommandDialog> {
 public:
     static constexpr UINT kTemplate = IDD_ADD_COMMAND;
-    static constexpr WPARAM kLongestName = 25;
-    static constexpr WPARAM kLongestComment = 150;
+    // Characters that can be written. The command line's are what reading gives back of a file's value.
+    static constexpr std::size_t kLongestName = 25;
+    static constexpr std::size_t kLongestLine = 4095;
+    static constexpr std::size_t kLongestComment = 150;
 
     static constexpr auto Messages() {
         return fw::MessageMap{

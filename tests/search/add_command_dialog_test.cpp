@@ -246,17 +246,29 @@ TEST_F(AddCommandDialog, PastesSeveralLinesWholeIntoEachField) {
     }
 }
 
-TEST_F(AddCommandDialog, TakesACommandLineOfAnyLength) {
+TEST_F(AddCommandDialog, TakesAsMuchOfACommandLineAsAFileGivesBack) {
     Open();
+    SetText(kLine, std::wstring(4094, L'x'));
+    Send(Control(kLine), EM_SETSEL, 4094, 4094);
 
-    SetText(kLine, std::wstring(40'000, L'x'));
-    Send(Control(kLine), EM_SETSEL, 40'000, 40'000);
-    Type(kLine, L"y");
-    SetText(kName, L"n");
-    Command(IDOK);
+    Type(kLine, L"yz");
 
-    ASSERT_TRUE(dialog->Answer());
-    EXPECT_EQ(dialog->Answer()->line.size(), 40'001U);
+    EXPECT_EQ(Text(kLine), std::wstring(4094, L'x') + L"y");
+}
+
+TEST_F(AddCommandDialog, InsertsNoPlaceholderThatAFileWouldCut) {
+    Open();
+    const std::wstring line(4085, L'x');
+    SetText(kLine, line);
+    SelectInLine(4085, 4085);
+    Insert(0);
+    EXPECT_EQ(Text(kLine), line + L"<%Search%>");
+
+    SelectInLine(0, 9);
+    Insert(0);
+    EXPECT_EQ(Text(kLine), line + L"<%Search%>");
+    Insert(7);
+    EXPECT_EQ(Text(kLine), L"<%Hidemaru%>");
 }
 
 TEST_F(AddCommandDialog, LeavesStoredTextsBeyondTheLimitsWhole) {

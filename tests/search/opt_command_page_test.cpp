@@ -11,6 +11,8 @@
 #include "framework/centred_message_box.h"
 #include "framework/gdi.h"
 #include "framework/window_text.h"
+#include "search/user_command_file.h"
+#include "settings/ini_backend.h"
 #include "settings/logic/setting_keys.h"
 #include "tests/support/dialog_host.h"
 #include "tests/support/fake_help.h"
@@ -19,6 +21,7 @@
 #include "tests/support/message_box_answer.h"
 #include "tests/support/message_count.h"
 #include "tests/support/modal_dialog_answer.h"
+#include "tests/support/temp_folder.h"
 #include "tests/support/window_test.h"
 
 using namespace korvane;
@@ -761,6 +764,38 @@ TEST_F(OptCommandPage, WritesAWholeFileAlsoWhenAnotherProgramHasChangedIt) {
     EXPECT_EQ(user.ReadText(L"SearchCommand_02", L"CommandName"), L"u3");
     Reopen();
     EXPECT_THAT(Rows(kUserList), ElementsAre(L"u1", L"u3"));
+}
+
+TEST_F(OptCommandPage, GetsEveryTextBackFromItsFile) {
+    const test::TempFolder folder;
+    settings::IniFileStore store{folder.File(L"UserCommand.dat")};
+    WindowsUserCommandFile realFile{folder.File(L"UserCommand.dat"), L";header\r\n\r\n"};
+    const auto open = [&] {
+        page = std::make_unique<COptCommandPage>(SearchStores{settings, standard, store},
+                                                 UserCommandPlaces{realFile, store}, help);
+        EXPECT_TRUE(page->Create(dialog.Handle()));
+        Press(kUserRadio);
+    };
+    const std::vector<SearchCommand> commands{
+        {1, L" 名前 ", L"\"C:\\a b.exe\" \"<%Search_UTF16%>\"", L"; a = b [c]"},
+        {2, L"\"quoted\"", L"='<%Search%>'", L""},
+        {3, std::wstring(25, L'名'), std::wstring(4095, L'x'), std::wstring(150, L'概')},
+    };
+
+    open();
+    for (const SearchCommand& command : commands) {
+        const test::ModalDialogAnswer answer{kEditorLine, IDOK, [&](HWND editor) {
+                                                 ::SetDlgItemTextW(editor, kEditorName, command.name.c_str());
+                                                 ::SetDlgItemTextW(editor, kEditorLine, command.line.c_str());
+                                                 ::SetDlgItemTextW(editor, kEditorComment, command.comment.c_str());
+                                             }};
+        Press(kAdd);
+    }
+    EXPECT_TRUE(page->Save());
+    open();
+
+    EXPECT_EQ(RowCount(kUserList), 3);
+    EXPECT_EQ(SearchCommandTable{store}.ReadAll(), commands);
 }
 
 TEST_F(OptCommandPage, StandsOnTheWindowColour) {
