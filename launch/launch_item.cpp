@@ -83,10 +83,31 @@ std::vector<CLaunchItem> LoadList(const settings::ProfileStore& store) {
     return items;
 }
 
-void SaveList(settings::ProfileStore& store, std::span<const CLaunchItem> items) {
-    store.DeleteSection(settings::section::kLaunchItems);
+std::vector<std::wstring> ReadLinesFrom(const settings::ProfileStore& store, int listed) {
+    std::vector<std::wstring> lines;
+    for (int index = listed; index < MaxLaunchItems; ++index) {
+        StoredLine line = ReadStoredLine(store, index);
+        if (!line.text.empty() && !line.builtIn) lines.push_back(std::move(line.text));
+    }
+    return lines;
+}
+
+bool SaveList(settings::ProfileStore& store, std::span<const CLaunchItem* const> items,
+              std::span<const std::wstring> unlisted) {
+    bool saved = store.DeleteSection(settings::section::kLaunchItems);
     int number = 0;
-    for (const CLaunchItem& item : items) store.Write(settings::keys::LaunchMenuItem, ++number, item.Format());
+    const auto write = [&](const std::wstring& line) {
+        saved = store.Write(settings::keys::LaunchMenuItem, number, line) && saved;
+    };
+    for (const CLaunchItem* const item : items) {
+        ++number;
+        if (item) write(item->Format());
+    }
+    for (const std::wstring& line : unlisted) {
+        if (++number > MaxLaunchItems) break;
+        write(line);
+    }
+    return saved;
 }
 
 } // namespace korvane::launch

@@ -41,6 +41,11 @@ protected:
         for (const CLaunchItem& item : list) names.push_back(item.Name());
         return names;
     }
+    static std::vector<const CLaunchItem*> PointersTo(const std::vector<CLaunchItem>& list) {
+        std::vector<const CLaunchItem*> pointers;
+        for (const CLaunchItem& item : list) pointers.push_back(&item);
+        return pointers;
+    }
     // Puts a file that holds an icon where a bare file name is looked for.
     void PutOnSearchPath(std::wstring_view name) {
         (void)items.Icon(name, RGB(1, 2, 3));
@@ -423,7 +428,7 @@ TEST_F(LaunchItemTest, ReplacesTheWholeSectionWhenTheListIsSaved) {
     list.resize(3);
     items.store.log.clear();
 
-    SaveList(items.store, list);
+    EXPECT_TRUE(SaveList(items.store, PointersTo(list)));
 
     EXPECT_EQ(items.store.log, L"delete Settings\\LaunchMenuItem\n"
                                L"Settings\\LaunchMenuItem.LaunchMenu01=" +
@@ -437,7 +442,7 @@ TEST_F(LaunchItemTest, WritesTwoDigitsInEveryKey) {
     items.PutWholeUpTo(38);
     const std::vector<CLaunchItem> list = LoadList(items.store);
 
-    SaveList(items.store, list);
+    EXPECT_TRUE(SaveList(items.store, PointersTo(list)));
 
     EXPECT_TRUE(items.store.Has(settings::section::kLaunchItems, L"LaunchMenu09"));
     EXPECT_TRUE(items.store.Has(settings::section::kLaunchItems, L"LaunchMenu38"));
@@ -447,9 +452,47 @@ TEST_F(LaunchItemTest, WritesTwoDigitsInEveryKey) {
 TEST_F(LaunchItemTest, SavesAnEmptyListAsNoSectionAtAll) {
     items.PutWholeUpTo(5);
 
-    SaveList(items.store, {});
+    EXPECT_TRUE(SaveList(items.store, {}));
 
     EXPECT_FALSE(items.store.sections.contains(std::wstring{settings::section::kLaunchItems}));
+}
+
+TEST_F(LaunchItemTest, UsesUpTheNumberOfAnItemThatIsMissing) {
+    items.PutWholeUpTo(2);
+    const std::vector<CLaunchItem> list = LoadList(items.store);
+
+    EXPECT_TRUE(SaveList(items.store, std::vector<const CLaunchItem*>{&list[0], nullptr, &list[1]}));
+
+    EXPECT_FALSE(items.store.Has(settings::section::kLaunchItems, L"LaunchMenu02"));
+    EXPECT_EQ(items.store.Read(settings::keys::LaunchMenuItem, 3), items.LineOf(2, L"n2"));
+}
+
+TEST_F(LaunchItemTest, KeepsTheLinesThatCannotBeLoaded) {
+    items.PutWholeUpTo(3);
+    items.Put(4, L"p4.exe, , ,gone.exe,0,n4");
+    items.PutWhole(5);
+    const std::vector<CLaunchItem> list = LoadList(items.store);
+    ASSERT_EQ(list.size(), 3U);
+
+    const std::vector<std::wstring> unlisted = ReadLinesFrom(items.store, 3);
+    EXPECT_THAT(unlisted, ElementsAre(L"p4.exe, , ,gone.exe,0,n4", items.LineOf(5, L"n5")));
+    EXPECT_TRUE(SaveList(items.store, PointersTo(list), unlisted));
+
+    EXPECT_EQ(items.store.Read(settings::keys::LaunchMenuItem, 4), L"p4.exe, , ,gone.exe,0,n4");
+    EXPECT_EQ(items.store.Read(settings::keys::LaunchMenuItem, 5), items.LineOf(5, L"n5"));
+}
+
+TEST_F(LaunchItemTest, KeepsUnloadedLinesOnlyWhileThereIsRoom) {
+    items.PutWholeUpTo(38);
+    const std::vector<CLaunchItem> list = LoadList(items.store);
+
+    EXPECT_TRUE(SaveList(items.store, PointersTo(list), std::vector<std::wstring>{L"a", L"b"}));
+
+    EXPECT_EQ(items.store.sections[std::wstring{settings::section::kLaunchItems}].size(), 38U);
+}
+
+TEST_F(LaunchItemTest, CountsNoneOfTheProgramsOwnLinesAsUnlisted) {
+    EXPECT_THAT(ReadLinesFrom(items.store, 0), IsEmpty());
 }
 
 TEST_F(LaunchItemTest, LosesWhatFollowsACommaInTheName) {
