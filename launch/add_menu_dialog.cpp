@@ -9,6 +9,7 @@
 #include "about/logic/help_topics.h"
 #include "framework/centred_message_box.h"
 #include "framework/centring.h"
+#include "framework/dpi.h"
 #include "framework/icons.h"
 #include "framework/string_table.h"
 #include "framework/version_information.h"
@@ -74,8 +75,7 @@ bool CAddMenuDialog::OnInitDialog(HWND) {
     browseProgram_.Attach(Control(IDC_BROWSE_PROGRAM), fw::LoadText(IDS_BROWSE_PROGRAM));
     browseFolder_.Attach(Control(IDC_BROWSE_WORKING_FOLDER), fw::LoadText(IDS_BROWSE_FOLDER_TITLE));
     ::SendMessageW(Control(IDC_ITEM_NAME), EM_SETLIMITTEXT, kLongestItemName, 0);
-    noIcon_ = fw::LoadResourceIcon(IDI_SETTINGS, ::GetSystemMetrics(SM_CXSMICON));
-
+    PrepareIconButton();
     SetText(IDC_PROGRAM, item_.Path());
     SetText(IDC_ITEM_NAME, item_.Name());
     SetText(IDC_ARGUMENTS, item_.Arguments());
@@ -115,13 +115,25 @@ void CAddMenuDialog::SetText(int id, const std::wstring& text) {
     ::SetWindowTextW(Control(id), text.c_str());
 }
 
-void CAddMenuDialog::ShowIcon() {
-    const HICON icon = item_.Icon() ? item_.Icon() : noIcon_.Get();
-    ::SendMessageW(Control(IDC_CHANGE_ICON), BM_SETIMAGE, IMAGE_ICON, reinterpret_cast<LPARAM>(icon));
+void CAddMenuDialog::PrepareIconButton() {
+    // From a list the button takes its picture anew whenever it is drawn, and it shows picture and text side by side.
+    shownIcon_ = fw::MakeImageList({IDI_SETTINGS}, ::GetSystemMetrics(SM_CXSMICON));
+    constexpr int kMarginPx = 4;
+    BUTTON_IMAGELIST picture{};
+    picture.himl = shownIcon_.Get();
+    picture.margin.left = fw::Scale()(kMarginPx);
+    picture.uAlign = BUTTON_IMAGELIST_ALIGN_LEFT;
+    ::SendMessageW(Control(IDC_CHANGE_ICON), BCM_SETIMAGELIST, 0, reinterpret_cast<LPARAM>(&picture));
 }
 
-void CAddMenuDialog::HideIcon() {
-    ::SendMessageW(Control(IDC_CHANGE_ICON), BM_SETIMAGE, IMAGE_ICON, 0);
+void CAddMenuDialog::ShowIcon() {
+    if (item_.Icon()) {
+        ::ImageList_ReplaceIcon(shownIcon_.Get(), 0, item_.Icon());
+    } else {
+        const auto none = fw::LoadResourceIcon(IDI_SETTINGS, ::GetSystemMetrics(SM_CXSMICON));
+        ::ImageList_ReplaceIcon(shownIcon_.Get(), 0, none.Get());
+    }
+    ::InvalidateRect(Control(IDC_CHANGE_ICON), nullptr, TRUE);
 }
 
 void CAddMenuDialog::UpdateButtons() {
@@ -141,7 +153,6 @@ void CAddMenuDialog::OnBrowseProgram() {
 
 void CAddMenuDialog::UseProgram(const std::wstring& program) {
     SetText(IDC_PROGRAM, program);
-    HideIcon();
     GiveFirstIcon(item_, ProgramIcons(program, OnWindows7()));
     ShowIcon();
     if (::IsDlgButtonChecked(Handle(), IDC_KEEP_NAME) == BST_CHECKED) return;
@@ -165,7 +176,6 @@ void CAddMenuDialog::OnChangeIcon() {
 }
 
 void CAddMenuDialog::UseIcon(const std::wstring& file, int index) {
-    HideIcon();
     item_.SetIcon(file, index);
     ShowIcon();
 }

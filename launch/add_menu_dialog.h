@@ -8,7 +8,7 @@
 #include "about/help_opener.h"
 #include "controls/glyph_button.h"
 #include "framework/dialog.h"
-#include "framework/handle.h"
+#include "framework/image_list.h"
 #include "launch/launch_item.h"
 #include "launch/logic/item_check.h"
 #include "res/ids.h"
@@ -65,9 +65,9 @@ private:
 
     [[nodiscard]] std::wstring TextOf(int id) const;
     void SetText(int id, const std::wstring& text);
+    void PrepareIconButton();
     // The item's icon, or a picture that stands for none.
     void ShowIcon();
-    void HideIcon();
     [[nodiscard]] ItemFields Fields() const;
     // False when the user does not want the item to be taken as it is.
     [[nodiscard]] bool Ask(const ItemProblem& problem);
@@ -77,7 +77,7 @@ private:
     bool editing_;
     CLaunchItem item_;
     bool confirmed_ = false;
-    fw::UniqueIcon noIcon_;
+    fw::UniqueImageList shownIcon_; // one image, on the button
     controls::GlyphButton browseProgram_{&controls::DotsGlyph};
     controls::GlyphButton browseFolder_{&controls::DotsGlyph};
 };

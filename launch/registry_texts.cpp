@@ -35,11 +35,12 @@ std::wstring WinRegistryTexts::Text(Root root, const std::wstring& key, const st
     std::wstring text;
     DWORD bytes = 0;
     LSTATUS status = ::RegGetValueW(KeyOf(root), key.c_str(), name.c_str(), kTexts, nullptr, nullptr, &bytes);
+    constexpr DWORD kUnitBytes = sizeof(wchar_t);
     // The size may have grown since it was asked.
     constexpr int kAttempts = 3;
     for (int attempt = 0; attempt < kAttempts && (status == ERROR_SUCCESS || status == ERROR_MORE_DATA); ++attempt) {
-        text.assign(bytes / sizeof(wchar_t) + 1, L'\0');
-        bytes = static_cast<DWORD>(text.size() * sizeof(wchar_t));
+        text.assign(bytes / kUnitBytes + 1, L'\0');
+        bytes = static_cast<DWORD>(text.size()) * kUnitBytes;
         status = ::RegGetValueW(KeyOf(root), key.c_str(), name.c_str(), kTexts, nullptr, text.data(), &bytes);
         if (status == ERROR_SUCCESS) {
             text.resize(text.find(L'\0'));

@@ -8,11 +8,14 @@
 #include <string>
 #include <vector>
 
-#include "framework/version_information.h"
+#include "framework/icons.h"
+#include "framework/program_path.h"
 #include "framework/window_text.h"
 #include "framework/windows_version.h"
+#include "res/image_ids.h"
 #include "tests/launch/launch_items.h"
 #include "tests/launch/system_icons.h"
+#include "tests/support/canvas.h"
 #include "tests/support/dialog_answer.h"
 #include "tests/support/fake_help.h"
 #include "tests/support/gdi_objects.h"
@@ -51,7 +54,22 @@ protected:
     void SetText(int id, const std::wstring& text) { ::SetWindowTextW(Control(id), text.c_str()); }
     [[nodiscard]] bool Enabled(int id) const { return ::IsWindowEnabled(Control(id)) != FALSE; }
     void Command(int id) { Send(dialog->Handle(), WM_COMMAND, static_cast<WPARAM>(id)); }
-    [[nodiscard]] HICON Shown() const { return reinterpret_cast<HICON>(Send(Control(1055), BM_GETIMAGE, IMAGE_ICON)); }
+    // The picture on the button.
+    [[nodiscard]] fw::UniqueIcon Shown() const {
+        BUTTON_IMAGELIST picture{};
+        EXPECT_TRUE(Send(Control(1055), BCM_GETIMAGELIST, 0, reinterpret_cast<LPARAM>(&picture)));
+        EXPECT_EQ(::ImageList_GetImageCount(picture.himl), 1);
+        return fw::UniqueIcon{::ImageList_GetIcon(picture.himl, 0, ILD_NORMAL)};
+    }
+    [[nodiscard]] static std::vector<COLORREF> PixelsOf(HICON icon) {
+        constexpr int kSidePx = 16;
+        const test::Canvas canvas{{kSidePx, kSidePx}};
+        EXPECT_TRUE(::DrawIconEx(canvas.Dc(), 0, 0, icon, kSidePx, kSidePx, 0, nullptr, DI_NORMAL));
+        return canvas.Pixels();
+    }
+    [[nodiscard]] static std::vector<COLORREF> PlaceholderPixels() {
+        return PixelsOf(fw::LoadResourceIcon(IDI_SETTINGS, ::GetSystemMetrics(SM_CXSMICON)).Get());
+    }
     // A failure of the last check before which everything is right; gives the message.
     [[nodiscard]] std::wstring Refusal(int focused) {
         test::MessageBoxAnswer box{IDOK};
@@ -142,7 +160,7 @@ TEST_F(AddMenuDialog, IsEmptyForANewItem) {
     EXPECT_EQ(Send(Control(1012), BM_GETCHECK), BST_UNCHECKED);
     EXPECT_FALSE(Enabled(IDOK));
     EXPECT_FALSE(Enabled(1055));
-    EXPECT_NE(Shown(), nullptr);
+    EXPECT_EQ(PixelsOf(Shown().Get()), PlaceholderPixels());
 }
 
 TEST_F(AddMenuDialog, ShowsTheItemThatIsEdited) {
@@ -152,7 +170,7 @@ TEST_F(AddMenuDialog, ShowsTheItemThatIsEdited) {
     EXPECT_EQ(Text(1053), L"名前");
     EXPECT_EQ(Text(1052), L"/a b");
     EXPECT_EQ(Text(1059), items.folder.Path());
-    EXPECT_EQ(test::ColourOf(Shown()), kRed);
+    EXPECT_EQ(test::ColourOf(Shown().Get()), kRed);
     EXPECT_TRUE(Enabled(IDOK));
     EXPECT_TRUE(Enabled(1055));
 }
@@ -387,17 +405,17 @@ TEST_F(AddMenuDialog, SurvivesTextsOfAbsurdLength) {
 }
 
 TEST_F(AddMenuDialog, TakesAProgramWithItsIconAndItsDescription) {
-    const std::wstring program = L"C:\\windows\\system32\\notepad.exe";
-    const std::wstring description = fw::FileDescription(program);
-    ASSERT_NE(description, L"");
+    // The tests have the program's own resources.
+    const std::wstring program = fw::ProgramPath().value();
     Open();
 
     dialog->UseProgram(program);
 
     EXPECT_EQ(Text(1051), program);
-    EXPECT_EQ(Text(1053), description);
+    EXPECT_EQ(Text(1053), L"Korvane");
     EXPECT_EQ(dialog->Item().GetIconLocation(), (std::pair{program, 0}));
-    EXPECT_EQ(Shown(), dialog->Item().Icon());
+    EXPECT_EQ(PixelsOf(Shown().Get()), PixelsOf(dialog->Item().Icon()));
+    EXPECT_NE(PixelsOf(Shown().Get()), PlaceholderPixels());
     EXPECT_TRUE(Enabled(IDOK));
 }
 
@@ -406,7 +424,7 @@ TEST_F(AddMenuDialog, KeepsTheNameWhenItIsToldTo) {
     Send(Control(1012), BM_SETCHECK, BST_CHECKED);
     SetText(1053, L"mine");
 
-    dialog->UseProgram(L"C:\\windows\\system32\\notepad.exe");
+    dialog->UseProgram(fw::ProgramPath().value());
 
     EXPECT_EQ(Text(1053), L"mine");
     EXPECT_NE(dialog->Item().Icon(), nullptr);
@@ -429,21 +447,20 @@ TEST_F(AddMenuDialog, GivesAProgramWithoutAnIconTheSystems) {
 
     const int index = fw::IsWindowsAtLeast(fw::kWindows7) ? 11 : 10;
     EXPECT_EQ(dialog->Item().GetIconLocation(), (std::pair{system.File(), index}));
-    EXPECT_EQ(test::ColourOf(Shown()), test::SystemIcons::ColourOf(index));
+    EXPECT_EQ(test::ColourOf(Shown().Get()), test::SystemIcons::ColourOf(index));
 }
 
 TEST_F(AddMenuDialog, HasNoIconWhereEvenTheSystemHasNone) {
     const test::NoSystemIcons none;
     items.folder.Write(L"x.bat", "rem");
     Open();
-    const HICON placeholder = Shown();
     dialog->UseIcon(items.Icon(L"red.ico", kRed), 0);
     SetText(1053, L"n");
 
     dialog->UseProgram(items.folder.File(L"x.bat"));
 
     EXPECT_EQ(dialog->Item().GetIconLocation(), (std::pair{std::wstring{}, -1}));
-    EXPECT_EQ(Shown(), placeholder);
+    EXPECT_EQ(PixelsOf(Shown().Get()), PlaceholderPixels());
     EXPECT_EQ(Refusal(1055), L"メニューに表示するアイコンが設定されていません。");
 }
 
@@ -487,7 +504,7 @@ TEST_F(AddMenuDialog, ChangesTheIconWithThePicker) {
     EXPECT_EQ(answer.Caption(), L"アイコンの変更");
     EXPECT_EQ(offered, items.folder.File(L"red.ico"));
     EXPECT_EQ(dialog->Item().GetIconLocation(), (std::pair{green, 0}));
-    EXPECT_EQ(test::ColourOf(Shown()), kGreen);
+    EXPECT_EQ(test::ColourOf(Shown().Get()), kGreen);
 }
 
 TEST_F(AddMenuDialog, KeepsTheIconWhenThePickerIsCancelled) {
@@ -497,7 +514,7 @@ TEST_F(AddMenuDialog, KeepsTheIconWhenThePickerIsCancelled) {
     Command(1055);
 
     EXPECT_EQ(dialog->Item().GetIconLocation(), (std::pair{items.folder.File(L"red.ico"), 0}));
-    EXPECT_EQ(test::ColourOf(Shown()), kRed);
+    EXPECT_EQ(test::ColourOf(Shown().Get()), kRed);
 }
 
 TEST_F(AddMenuDialog, OffersTheSystemsIconsWhenTheItemHasNone) {

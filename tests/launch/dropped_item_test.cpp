@@ -9,7 +9,6 @@
 #include <vector>
 
 #include "framework/program_path.h"
-#include "framework/version_information.h"
 #include "framework/windows_version.h"
 #include "launch/registry_texts.h"
 #include "tests/launch/launch_items.h"
@@ -71,14 +70,13 @@ protected:
 };
 
 TEST_F(ItemFromFileTest, NamesAProgramByItsDescription) {
-    const std::wstring program = L"C:\\windows\\system32\\notepad.exe";
-    const std::wstring description = fw::FileDescription(program);
-    ASSERT_NE(description, L"");
+    // The tests have the program's own resources.
+    const std::wstring program = fw::ProgramPath().value();
 
     const CLaunchItem item = ItemFromFile(program);
 
     EXPECT_EQ(item.Path(), program);
-    EXPECT_EQ(item.Name(), description);
+    EXPECT_EQ(item.Name(), L"Korvane");
     EXPECT_EQ(item.Arguments(), L"");
     EXPECT_EQ(item.WorkingFolder(), L"");
     EXPECT_EQ(item.GetIconLocation(), (std::pair{program, 0}));

@@ -108,7 +108,7 @@ TEST_F(SelectIconDialog, PutsAListOfItsOwnIntoThePlaceOfTheTemplates) {
     EXPECT_EQ(Control(1024), nullptr);
     const auto style = static_cast<DWORD>(::GetWindowLongPtrW(List(), GWL_STYLE));
     constexpr DWORD kWanted =
-        WS_VISIBLE | WS_TABSTOP | WS_HSCROLL | LBS_NOTIFY | LBS_OWNERDRAWFIXED | LBS_MULTICOLUMN | LBS_NOINTEGRALHEIGHT;
+        WS_VISIBLE | WS_TABSTOP | LBS_NOTIFY | LBS_OWNERDRAWFIXED | LBS_MULTICOLUMN | LBS_NOINTEGRALHEIGHT;
     EXPECT_EQ(style & kWanted, kWanted);
     EXPECT_EQ(style & (LBS_SORT | LBS_HASSTRINGS | WS_GROUP), 0U);
 }
@@ -313,7 +313,16 @@ TEST_F(SelectIconDialog, HasCellsALittleLargerThanTheirIcons) {
 
     EXPECT_EQ(first.right - first.left, fw::Scale()(24));
     EXPECT_EQ(first.bottom - first.top, fw::Scale()(24));
-    EXPECT_GE((list.right / (first.right - first.left)) * (list.bottom / (first.bottom - first.top)), 40);
+    EXPECT_GE((list.right / (first.right - first.left)) * (list.bottom / (first.bottom - first.top)), 30);
+}
+
+TEST_F(SelectIconDialog, ScrollsSidewaysToManyIcons) {
+    Open(Library(std::vector<COLORREF>(400, kRed)), 399);
+
+    EXPECT_NE(::GetWindowLongPtrW(List(), GWL_STYLE) & WS_HSCROLL, 0);
+    RECT last{};
+    Send(List(), LB_GETITEMRECT, 399, reinterpret_cast<LPARAM>(&last));
+    EXPECT_LT(last.left, fw::ClientRect(List()).right);
 }
 
 TEST_F(SelectIconDialog, OpensFiveThousandIconsQuickly) {
