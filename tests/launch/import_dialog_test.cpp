@@ -39,7 +39,7 @@ constexpr wchar_t kQuick[] = L"data\\Microsoft\\Internet Explorer\\Quick Launch\
 // What is done with a folder browser as soon as it is there: chooses a folder, or cancels when that is empty.
 std::wstring g_browserChoice;
 std::wstring g_browserTexts;
-bool g_browserSeen = false;
+int g_browserTicks = 0;
 int g_browsers = 0;
 
 BOOL CALLBACK NoteText(HWND child, LPARAM) {
@@ -57,10 +57,10 @@ void CALLBACK AnswerBrowser(HWND, UINT, UINT_PTR, DWORD) {
     HWND browser = nullptr;
     ::EnumThreadWindows(::GetCurrentThreadId(), &FindBrowser, reinterpret_cast<LPARAM>(&browser));
     if (!browser || !::IsWindowVisible(browser)) return;
-    if (!g_browserSeen) {
-        // The next tick finds the browser set up, with the folder in it.
-        g_browserSeen = true;
-        ++g_browsers;
+    // Its tree is filled while it is already there, and a folder that is not yet in it cannot be chosen.
+    constexpr int kTicksToFill = 5;
+    if (++g_browserTicks == 1) ++g_browsers;
+    if (g_browserTicks <= kTicksToFill) {
         if (!g_browserChoice.empty())
             ::SendMessageW(browser, BFFM_SETSELECTIONW, TRUE, reinterpret_cast<LPARAM>(g_browserChoice.c_str()));
         return;
@@ -168,7 +168,7 @@ protected:
     // Answers the folder browser that choosing the last fixed source opens.
     void ChooseElsewhere(const std::wstring& chosenFolder) {
         g_browserChoice = chosenFolder;
-        g_browserSeen = false;
+        g_browserTicks = 0;
         if (!browserTimer) browserTimer = ::SetTimer(nullptr, 0, 50, &AnswerBrowser);
         Choose(3);
     }
