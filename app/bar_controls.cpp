@@ -61,8 +61,7 @@ bool BarControls::Create(HWND frame, HFONT barFont, const BarLayout& at) {
         CreateChild(launchButtons[0], frame, ID_LAUNCH_BUTTON_1, {}, at.launch[0]) &&
         CreateChild(launchButtons[1], frame, ID_LAUNCH_BUTTON_2, {}, at.launch[1]) &&
         CreateChild(launchButtons[2], frame, ID_LAUNCH_BUTTON_3, {}, at.launch[2]) &&
-        // What it opens is not there yet.
-        CreateChild(options, frame, ID_OPTIONS, text(IDS_OPTIONS), at.options, kDisabledStyle) &&
+        CreateChild(options, frame, ID_OPTIONS, text(IDS_OPTIONS), at.options) &&
         CreateChild(help, frame, ID_HELP_CONTENTS, text(IDS_HELP), at.help) &&
         CreateChild(clock, frame, ID_CLOCK, {}, at.clock) && CreateChild(exit, frame, ID_EXIT, text(IDS_EXIT), at.exit);
     if (!created) return false;

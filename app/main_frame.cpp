@@ -63,7 +63,6 @@ void CMainFrame::ShowFirst(int showCommand) {
     notificationIcon_.Add(Handle(), smallIcon_.Get());
     clipboard_.Start(Handle());
     launch::BuildLaunchMenu(menus_, settings_);
-    GreyUnbuilt();
     search::DetectSearchTools(settings_);
     versionText_ = about::ReadVersionText();
 }
@@ -157,7 +156,6 @@ void CMainFrame::ApplySettings() {
     BuildSearchCommandMenu();
     // The first time it can wait until the bar is to be seen.
     if (created_) launch::BuildLaunchMenu(menus_, settings_);
-    GreyUnbuilt();
     docking_.ApplyMode(created_ ? ShowAtEnd::kYes : ShowAtEnd::kNo);
 }
 

@@ -20,6 +20,7 @@
 #include "base/colour.h"
 #include "base/geometry.h"
 #include "controls/bar_host.h"
+#include "controls/option_page.h"
 #include "controls/time_date_host.h"
 #include "framework/centred_message_box.h"
 #include "framework/handle.h"
@@ -28,6 +29,7 @@
 #include "framework/timer.h"
 #include "framework/window.h"
 #include "launch/app_menu_bar.h"
+#include "launch/option_dialog.h"
 #include "res/ids.h"
 #include "search/drop_down_dialog.h"
 #include "search/logic/execute_search.h"
@@ -53,6 +55,7 @@ class CMainFrame final : public fw::Window<CMainFrame>,
                          public controls::TimeDateHost,
                          public about::HelpOpener,
                          public search::HistoryDropDownHost,
+                         public controls::HistoryKeeper,
                          private DockedWindow,
                          private fw::MessageFilter {
 public:
@@ -131,6 +134,10 @@ public:
     // Asks, then empties one history and its box.
     void ClearHistory(search::Box box) override;
 
+    // controls::HistoryKeeper
+    [[nodiscard]] bool HistoriesEmpty() const override;
+    void ClearHistories() override;
+
 private:
     bool PreTranslate(const MSG& message) override;
 
@@ -207,8 +214,6 @@ private:
     void NameMenusForThisWindows();
     void AddMenuImages();
     void RefreshMenuStates();
-    // Greys what there is nothing behind yet.
-    void GreyUnbuilt();
     // Shows a menu at a point of the screen; gives the chosen command, or 0.
     UINT Track(HMENU menu, UINT flags, POINT at);
     // The same when the user did not come from the bar itself.
@@ -221,6 +226,7 @@ private:
     // Tells what went wrong when the shell's result says that something did.
     void ReportStart(INT_PTR result, fw::Centring centring);
     void OpenCalendar();
+    void OpenOptions(UINT command);
     void ShowAboutBox();
     void OpenSupport(UINT command);
     void ToggleClipboardMonitor();
@@ -288,6 +294,8 @@ private:
     bool clipboardMonitored_ = false;
     TaskList tasks_;
     int taskNameChoice_ = 0;
+
+    launch::COptionDialog* options_ = nullptr; // while it is open
 
     bool clockShown_ = false;
     HWND lastFocus_ = nullptr;

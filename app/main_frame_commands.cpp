@@ -18,6 +18,8 @@
 #include "search/logic/process_starter.h"
 #include "search/logic/typed_command.h"
 #include "search/path_pickers.h"
+#include "search/search_tools.h"
+#include "search/user_command_file.h"
 #include "settings/logic/setting_keys.h"
 
 namespace korvane::app {
@@ -51,6 +53,9 @@ fw::Reply CMainFrame::OnCommand(UINT command) {
         break;
     case Route::kBrowseFolder:
         BrowseFolder();
+        break;
+    case Route::kOpenOptions:
+        OpenOptions(command);
         break;
     case Route::kOpenCalendar:
         OpenCalendar();
@@ -220,6 +225,40 @@ void CMainFrame::ClearHistory(Box box) {
     if (Ask(fw::FormatResource(IDS_CLEAR_HISTORY, std::wstring_view{name})) != IDYES) return;
     histories_.Of(box).Clear();
     BoxWindow(box).SetText(L"");
+}
+
+bool CMainFrame::HistoriesEmpty() const {
+    return histories_.Of(Box::kCommand).Entries().empty() && histories_.Of(Box::kSearch).Entries().empty();
+}
+
+void CMainFrame::ClearHistories() {
+    for (const Box box : {Box::kCommand, Box::kSearch}) {
+        histories_.Of(box).Clear();
+        BoxWindow(box).SetText(L"");
+    }
+}
+
+void CMainFrame::OpenOptions(UINT command) {
+    const launch::OptionPage page = launch::OptionPageOf(command);
+    if (options_) {
+        ::SetForegroundWindow(options_->Handle());
+        options_->GoTo(page);
+        return;
+    }
+    // A tool that was installed since the start can then be put into a command.
+    search::DetectSearchTools(settings_);
+    search::WindowsUserCommandFile userCommandFile{userCommands_->Path(), fw::LoadText(IDS_USER_COMMAND_HEADER)};
+    launch::COptionDialog dialog{
+        page,
+        {.stores = Stores(), .userCommands = {userCommandFile, *userCommands_}, .histories = *this, .help = *this}};
+    {
+        const fw::ScopedFlag modal{modalMessageOpen_};
+        options_ = &dialog;
+        // How it was closed is not told by its result.
+        static_cast<void>(dialog.ShowModal(Handle()));
+        options_ = nullptr;
+    }
+    if (dialog.Confirmed()) ApplySettings();
 }
 
 void CMainFrame::BuildSearchCommandMenu() {

@@ -107,9 +107,4 @@ void CMainFrame::RefreshMenuStates() {
     }
 }
 
-void CMainFrame::GreyUnbuilt() {
-    for (const UINT command : {ID_LAUNCH_SETTINGS, ID_SEARCH_SETTINGS})
-        ::EnableMenuItem(menus_.Menu(), command, MF_BYCOMMAND | MF_GRAYED);
-}
-
 } // namespace korvane::app

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <string>
+#include <vector>
 
 #include "framework/handle.h"
 
@@ -9,6 +10,10 @@ namespace fw {
 // The small icon number `index` of a program or library; a bare file name is looked up on the search path by the
 // system. Empty when there is no such icon.
 [[nodiscard]] UniqueIcon ExtractSmallIcon(const std::wstring& file, int index);
+
+// All small icons of a program, library or icon file, in its order. One that cannot be got, for instance because the
+// process has as many icons as it may have, is null. Empty when the file has none or is not there.
+[[nodiscard]] std::vector<UniqueIcon> ExtractSmallIcons(const std::wstring& file);
 
 // An icon of the program's own resources at the given size in pixels.
 [[nodiscard]] UniqueIcon LoadResourceIcon(UINT id, int sizePx);

@@ -1,30 +1,16 @@
 #include "launch/launch_item.h"
 
-#include <shlwapi.h>
-
-#include <array>
 #include <tuple>
 
 #include "base/text.h"
 #include "framework/icons.h"
 #include "launch/logic/launch_limits.h"
 #include "launch/logic/launch_line.h"
+#include "launch/search_path.h"
 #include "launch/stored_line.h"
 #include "settings/logic/setting_keys.h"
 
 namespace korvane::launch {
-namespace {
-
-// The full path of a file that is named without its folder and can be found; anything else stays as it is.
-void FindOnSearchPath(std::wstring& file) {
-    std::array<wchar_t, MAX_PATH> path{};
-    if (file.find(L'\\') != std::wstring::npos || file.size() >= path.size()) return;
-    file.copy(path.data(), file.size());
-    if (::PathFindOnPathW(path.data(), nullptr)) file = path.data();
-}
-
-} // namespace
-
 bool CLaunchItem::Load(const settings::ProfileStore& store, int index, bool withIcon) {
     icon_.Reset();
     iconIndex_ = kNoIcon;
@@ -41,8 +27,8 @@ bool CLaunchItem::Load(const settings::ProfileStore& store, int index, bool with
     ExtractIcon();
     if (!icon_) return false;
     if (line.builtIn) {
-        FindOnSearchPath(path_);
-        FindOnSearchPath(iconFile_);
+        path_ = WithFolderFound(std::move(path_));
+        iconFile_ = WithFolderFound(std::move(iconFile_));
     }
     return true;
 }
@@ -53,9 +39,12 @@ void CLaunchItem::Set(std::wstring path, std::wstring arguments, std::wstring wo
     arguments_ = std::move(arguments);
     workingFolder_ = std::move(workingFolder);
     name_ = std::move(name);
-    if (!iconFile) return;
-    iconFile_ = *std::move(iconFile);
-    iconIndex_ = iconIndex;
+    if (iconFile) SetIcon(*std::move(iconFile), iconIndex);
+}
+
+void CLaunchItem::SetIcon(std::wstring file, int index) {
+    iconFile_ = std::move(file);
+    iconIndex_ = index;
     ExtractIcon();
 }
 
@@ -94,10 +83,31 @@ std::vector<CLaunchItem> LoadList(const settings::ProfileStore& store) {
     return items;
 }
 
-void SaveList(settings::ProfileStore& store, std::span<const CLaunchItem> items) {
-    store.DeleteSection(settings::section::kLaunchItems);
+std::vector<std::wstring> ReadLinesFrom(const settings::ProfileStore& store, int listed) {
+    std::vector<std::wstring> lines;
+    for (int index = listed; index < MaxLaunchItems; ++index) {
+        StoredLine line = ReadStoredLine(store, index);
+        if (!line.text.empty() && !line.builtIn) lines.push_back(std::move(line.text));
+    }
+    return lines;
+}
+
+bool SaveList(settings::ProfileStore& store, std::span<const CLaunchItem* const> items,
+              std::span<const std::wstring> unlisted) {
+    bool saved = store.DeleteSection(settings::section::kLaunchItems);
     int number = 0;
-    for (const CLaunchItem& item : items) store.Write(settings::keys::LaunchMenuItem, ++number, item.Format());
+    const auto write = [&](const std::wstring& line) {
+        saved = store.Write(settings::keys::LaunchMenuItem, number, line) && saved;
+    };
+    for (const CLaunchItem* const item : items) {
+        ++number;
+        if (item) write(item->Format());
+    }
+    for (const std::wstring& line : unlisted) {
+        if (++number > MaxLaunchItems) break;
+        write(line);
+    }
+    return saved;
 }
 
 } // namespace korvane::launch

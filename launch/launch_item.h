@@ -34,6 +34,8 @@ public:
     // Without an icon file the icon stays what it is, and the index with it.
     void Set(std::wstring path, std::wstring arguments, std::wstring workingFolder, std::wstring name,
              std::optional<std::wstring> iconFile = {}, int iconIndex = kNoIcon);
+    // The icon alone; the one before is destroyed.
+    void SetIcon(std::wstring file, int index);
     void Assign(const CLaunchItem& other);
 
     [[nodiscard]] std::pair<std::wstring, int> GetIconLocation() const { return {iconFile_, iconIndex_}; }
@@ -66,7 +68,13 @@ private:
 // no gaps, and every item in it has an icon.
 [[nodiscard]] std::vector<CLaunchItem> LoadList(const settings::ProfileStore& store);
 
-// Replaces all that is stored.
-void SaveList(settings::ProfileStore& store, std::span<const CLaunchItem> items);
+// The stored lines behind the list's last item: those that cannot be loaded now, and those that follow them. The items
+// may be on a computer that is off.
+[[nodiscard]] std::vector<std::wstring> ReadLinesFrom(const settings::ProfileStore& store, int listed);
+
+// Replaces all that is stored by the items, in their order; a null pointer uses up its number. Lines that no item was
+// made of follow them as they are, as far as there is room. False when something could not be written.
+bool SaveList(settings::ProfileStore& store, std::span<const CLaunchItem* const> items,
+              std::span<const std::wstring> unlisted = {});
 
 } // namespace korvane::launch

@@ -159,8 +159,12 @@
 #define IDC_HISTORY_LENGTH          1046
 #define IDC_HISTORY_LENGTH_SPIN     1047
 #define IDC_HISTORY_LENGTH_FIRST    1046  // these are greyed together
+#define IDC_HISTORY_LENGTH_LABEL    1048
+#define IDC_HISTORY_LENGTH_LEAD     1049
+#define IDC_HISTORY_LENGTH_UNIT     1050
 #define IDC_HISTORY_LENGTH_LAST     1050
 #define IDC_HIDE_DELAY_FIRST        1061
+#define IDC_HIDE_DELAY_UNIT         1062
 #define IDC_HIDE_DELAY              1063
 #define IDC_HIDE_DELAY_LAST         1063
 #define IDC_SHOW_CLOCK              1064
@@ -186,6 +190,8 @@
 #define IDC_COPY                    1035
 #define IDC_PASTE                   1036
 #define IDC_COMMAND_DETAILS         1037
+#define IDC_STANDARD_LIST_LABEL     1070
+#define IDC_USER_LIST_LABEL         1071
 #define IDC_UNCHECK_ALL             1042
 #define IDC_CHECK_ALL               1043
 
@@ -195,6 +201,8 @@
 #define IDC_COMMAND_NAME            1039
 #define IDC_COMMAND_LINE            1040
 #define IDC_COMMAND_COMMENT         1041
+#define IDC_COMMAND_LINE_HINT       1072
+#define IDC_PLACEHOLDER_MEANING     1073
 
 // Options, launch menu page.
 #define IDC_ITEM_COUNT              1048
@@ -341,6 +349,14 @@
 #define IDS_USER_COMMANDS           281
 #define IDS_COMMAND_COUNT           282
 #define IDS_COMMAND_EDITOR_TITLE    283
+#define IDS_NAME_COLUMN             284
+#define IDS_SUMMARY_COLUMN          285
+#define IDS_DETAIL_NAME             286
+#define IDS_DETAIL_LINE             287
+#define IDS_DETAIL_COMMENT          288
+#define IDS_COMMAND_LINE_HINT       289
+#define IDS_PLACEHOLDER_FIRST       290  // what each placeholder does, in the order in which they are offered
+#define IDS_PLACEHOLDER_LAST        297
 
 // Editor of a launch item, and icon picker.
 #define IDS_ITEM_EDITOR_TITLE       310

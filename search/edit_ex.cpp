@@ -3,19 +3,11 @@
 #include <commctrl.h>
 #include <imm.h>
 
-#include <algorithm>
-#include <optional>
-#include <string_view>
-
 #include "framework/system_library.h"
 #include "framework/window_text.h"
-#include "search/logic/typed_command.h"
 
 namespace korvane::search {
 namespace {
-
-// What Ctrl+A arrives as.
-constexpr WPARAM kSelectAllCharacter = 1;
 
 // Dialog units.
 constexpr UINT kTabStop = 16;
@@ -33,22 +25,6 @@ struct InputMethod {
     decltype(&::ImmGetCompositionStringW) composition =
         fw::FunctionOf<decltype(::ImmGetCompositionStringW)>(library.Get(), "ImmGetCompositionStringW");
 };
-
-// The clipboard's text; empty when it has none or another program holds the clipboard.
-std::optional<std::wstring> ClipboardText(HWND window) {
-    if (!::IsClipboardFormatAvailable(CF_UNICODETEXT) || !::OpenClipboard(window)) return std::nullopt;
-    std::optional<std::wstring> text;
-    if (const HANDLE data = ::GetClipboardData(CF_UNICODETEXT)) {
-        if (const auto* const first = static_cast<const wchar_t*>(::GlobalLock(data))) {
-            // A program may leave out the terminating zero.
-            const auto* const end = first + ::GlobalSize(data) / sizeof(wchar_t);
-            text.emplace(first, std::find(first, end, L'\0'));
-            ::GlobalUnlock(data);
-        }
-    }
-    ::CloseClipboard();
-    return text;
-}
 
 } // namespace
 
@@ -106,22 +82,6 @@ bool CEditEx::Composing() const {
     const LONG bytes = method.composition(context, GCS_COMPSTR, nullptr, 0);
     method.release(Handle(), context);
     return bytes > 0;
-}
-
-void CEditEx::OnPaste(const fw::Message& message) {
-    // Left to itself a box of one line takes only the first line of what is pasted.
-    const auto text = ClipboardText(Handle());
-    if (!text) {
-        Default(message);
-        return;
-    }
-    ::SendMessageW(Handle(), EM_REPLACESEL, TRUE, reinterpret_cast<LPARAM>(OnOneLine(*text).c_str()));
-}
-
-fw::Reply CEditEx::OnCharacter(const fw::Message& message) {
-    if (message.wparam != kSelectAllCharacter) return fw::kPassOn;
-    SelectAll();
-    return LRESULT{0};
 }
 
 fw::Reply CEditEx::OnDestroy() {

@@ -3,19 +3,19 @@
 #include <string>
 
 #include "framework/window.h"
+#include "search/one_line_edit.h"
 
 namespace korvane::search {
 
 // One of the two boxes of the bar: an edit control of one line, of any length, with a tooltip of its own.
-class CEditEx final : public fw::Window<CEditEx> {
+class CEditEx final : public fw::Window<CEditEx>, public OneLineEdit<CEditEx> {
 public:
     static constexpr fw::WindowClass kClass{.name = L"EditEx_WndClass", .base = L"EDIT"};
 
     static constexpr auto Messages() {
         return fw::MessageMap{
-            fw::On<WM_PASTE>(&CEditEx::OnPaste),
-            fw::On<WM_CHAR>(&CEditEx::OnCharacter),
             fw::On<WM_DESTROY>(&CEditEx::OnDestroy),
+            fw::Chain<OneLineEdit<CEditEx>>(),
         };
     }
 
@@ -37,8 +37,6 @@ public:
     [[nodiscard]] HWND ToolTip() const { return toolTip_; }
 
 private:
-    void OnPaste(const fw::Message& message);
-    fw::Reply OnCharacter(const fw::Message& message);
     fw::Reply OnDestroy();
     void AddToolTip(const std::wstring& tip);
 

@@ -35,7 +35,7 @@ struct FreeTaskMemory {
 
 } // namespace
 
-std::optional<std::wstring> PickFile(HWND owner, std::wstring_view filter) {
+std::optional<std::wstring> PickFile(HWND owner, std::wstring_view filter, const FilePicker& picker) {
     // The dialog wants zeros where the text has bars, and two of them at the end.
     std::wstring zeroFilter{filter};
     std::replace(zeroFilter.begin(), zeroFilter.end(), L'|', L'\0');
@@ -48,6 +48,8 @@ std::optional<std::wstring> PickFile(HWND owner, std::wstring_view filter) {
     request.lpstrFilter = zeroFilter.c_str();
     request.lpstrFile = path.data();
     request.nMaxFile = static_cast<DWORD>(path.size());
+    if (!picker.title.empty()) request.lpstrTitle = picker.title.c_str();
+    if (!picker.startFolder.empty()) request.lpstrInitialDir = picker.startFolder.c_str();
     request.Flags = OFN_EXPLORER | OFN_HIDEREADONLY | OFN_FILEMUSTEXIST | OFN_PATHMUSTEXIST | OFN_NOCHANGEDIR;
     if (!::GetOpenFileNameW(&request)) return std::nullopt;
     path.resize(path.find(L'\0'));

@@ -48,7 +48,7 @@ def squeezed(text):
 def shown(text):
     """A menu or dialog text without key, access key and the signs behind it."""
     text = re.sub(r"\s*\(&\w\)", "", text.partition("\t")[0])
-    text = re.sub(r"^\[&\w\]\s*", "", text).replace("&", "")
+    text = re.sub(r"&(?=\w)", "", re.sub(r"^\[&\w\]\s*", "", text))
     return text.strip().rstrip(":：").removesuffix("...").strip()
 
 

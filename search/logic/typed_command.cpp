@@ -40,4 +40,11 @@ std::wstring OnOneLine(std::wstring_view text) {
     return line;
 }
 
+std::wstring_view WithinRoom(std::wstring_view text, std::size_t room) {
+    constexpr auto isLeadingHalf = [](wchar_t unit) { return unit >= 0xD800 && unit < 0xDC00; };
+    if (text.size() <= room) return text;
+    if (room > 0 && isLeadingHalf(text[room - 1])) --room;
+    return text.substr(0, room);
+}
+
 } // namespace korvane::search

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <string>
 #include <string_view>
 
@@ -33,5 +34,8 @@ enum class PathEntry { kReplace, kAppend };
 // A text for a box of one line: every line break becomes one blank, and those at the very end, which a copied line
 // often brings along, are dropped.
 [[nodiscard]] std::wstring OnOneLine(std::wstring_view text);
+
+// As much of a text as `room` UTF-16 units hold, without half of a pair at the end.
+[[nodiscard]] std::wstring_view WithinRoom(std::wstring_view text, std::size_t room);
 
 } // namespace korvane::search

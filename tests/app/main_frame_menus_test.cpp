@@ -118,11 +118,12 @@ TEST_F(MenusTest, SupportHasItsItemsInTheirOrder) {
               std::wstring{L"40005 オンライン ドキュメント(&L)\n40006 メール送信(&N)\n-\n40007 Brannock(&T)\n"});
 }
 
-TEST_F(MenusTest, WhatIsNotBuiltYetIsGreyed) {
+TEST_F(MenusTest, TheWaysToTheOptionsAreOpen) {
     Open(MainMenu());
 
-    for (const UINT command : {2009U, 4063U}) EXPECT_TRUE(Greyed(command)) << command;
-    EXPECT_NE(Item(Bar().Popup(POPUP_SEARCH), 5000, false).fState & MFS_GRAYED, 0U);
+    for (const UINT command : {2009U, 4063U}) EXPECT_FALSE(Greyed(command)) << command;
+    EXPECT_EQ(Item(Bar().Popup(POPUP_SEARCH), 5000, false).fState & MFS_GRAYED, 0U);
+    EXPECT_TRUE(::IsWindowEnabled(Child(2009)));
 }
 
 TEST_F(MenusTest, TheSecurityCentreHasItsOldNameOnlyBeforeWindows7) {

@@ -233,12 +233,12 @@ class HelpTopics(Help):
 class HelpTexts(Help):
     SCRIPT = (
         'BEGIN\n    MENUITEM "メモ帳(&M)\\tCtrl+Shift+A", ID_A\n    MENUITEM "[&0] 設定...", ID_B\nEND\n'
-        '    IDS_ASK   "[%s] を消去します。\\nよろしいですか？"\n    IDS_PATH_KEY "NobodyReadsThis"\n'
+        '    IDS_ASK   "[%s] を消去します。\\nよろしいですか？"\n    IDS_PATH_KEY "NobodyReadsThis"\n    IDS_AND "(&) は除きます。"\n'
         '    LTEXT "種類(&E):", IDC_A, 0, 0, 1, 1\n'
         'BEGIN\n    "A",     ID_A, VIRTKEY, CONTROL, SHIFT\n    VK_LWIN, ID_B, VIRTKEY, CONTROL, ALT\nEND\n'
     )
     PAGES = {
-        "index": "メモ帳 設定 種類 [<i>検索ボックス</i>] を消去します。<br>よろしいですか？",
+        "index": "メモ帳 設定 種類 [<i>検索ボックス</i>] を消去します。<br>よろしいですか？ (&amp;) は除きます。",
         "keyboard": "<kbd>Ctrl+Shift+A</kbd><kbd>Ctrl+Alt+Win</kbd>",
         "placeholders": "&lt;%Search%&gt;",
     }
@@ -258,7 +258,7 @@ class HelpTexts(Help):
         self.assertEqual(len(self.found(placeholders="&lt;%search%&gt;")), 1)
 
     def test_a_menu_text_a_dialog_text_and_a_message_that_are_not_told_are_found(self):
-        self.assertEqual(len(self.found(index="")), 4)
+        self.assertEqual(len(self.found(index="")), 5)
 
     def test_a_message_in_other_words_is_found(self):
         self.assertEqual(len(self.found(index=self.PAGES["index"].replace("消去します", "消します"))), 1)

@@ -41,6 +41,11 @@ protected:
         for (const CLaunchItem& item : list) names.push_back(item.Name());
         return names;
     }
+    static std::vector<const CLaunchItem*> PointersTo(const std::vector<CLaunchItem>& list) {
+        std::vector<const CLaunchItem*> pointers;
+        for (const CLaunchItem& item : list) pointers.push_back(&item);
+        return pointers;
+    }
     // Puts a file that holds an icon where a bare file name is looked for.
     void PutOnSearchPath(std::wstring_view name) {
         (void)items.Icon(name, RGB(1, 2, 3));
@@ -264,6 +269,20 @@ TEST_F(LaunchItemTest, KeepsItsIconWhenItIsSetWithoutAnIconFile) {
     EXPECT_EQ(item.Icon(), before);
 }
 
+TEST_F(LaunchItemTest, TakesAnotherIconAndKeepsTheRest) {
+    CLaunchItem item;
+    item.Set(L"p", L"a", L"f", L"n", items.Icon(L"i.ico", RGB(1, 200, 1)), 0);
+    const std::wstring other = items.Icon(L"other.ico", RGB(1, 1, 200));
+
+    item.SetIcon(other, 0);
+    EXPECT_EQ(Text(item), L"[p][a][f][" + other + L"][0][n]");
+    EXPECT_EQ(test::ColourOf(item.Icon()), static_cast<COLORREF>(RGB(1, 1, 200)));
+
+    item.SetIcon({}, -1);
+    EXPECT_EQ(Text(item), L"[p][a][f][][-1][n]");
+    EXPECT_EQ(item.Icon(), nullptr);
+}
+
 TEST_F(LaunchItemTest, HasNoIconWhenItIsSetToOneThatIsNotThere) {
     CLaunchItem item;
     item.Set(L"p", L"a", L"f", L"n", items.Icon(L"i.ico", RGB(1, 200, 1)), 0);
@@ -409,7 +428,7 @@ TEST_F(LaunchItemTest, ReplacesTheWholeSectionWhenTheListIsSaved) {
     list.resize(3);
     items.store.log.clear();
 
-    SaveList(items.store, list);
+    EXPECT_TRUE(SaveList(items.store, PointersTo(list)));
 
     EXPECT_EQ(items.store.log, L"delete Settings\\LaunchMenuItem\n"
                                L"Settings\\LaunchMenuItem.LaunchMenu01=" +
@@ -423,7 +442,7 @@ TEST_F(LaunchItemTest, WritesTwoDigitsInEveryKey) {
     items.PutWholeUpTo(38);
     const std::vector<CLaunchItem> list = LoadList(items.store);
 
-    SaveList(items.store, list);
+    EXPECT_TRUE(SaveList(items.store, PointersTo(list)));
 
     EXPECT_TRUE(items.store.Has(settings::section::kLaunchItems, L"LaunchMenu09"));
     EXPECT_TRUE(items.store.Has(settings::section::kLaunchItems, L"LaunchMenu38"));
@@ -433,9 +452,47 @@ TEST_F(LaunchItemTest, WritesTwoDigitsInEveryKey) {
 TEST_F(LaunchItemTest, SavesAnEmptyListAsNoSectionAtAll) {
     items.PutWholeUpTo(5);
 
-    SaveList(items.store, {});
+    EXPECT_TRUE(SaveList(items.store, {}));
 
     EXPECT_FALSE(items.store.sections.contains(std::wstring{settings::section::kLaunchItems}));
+}
+
+TEST_F(LaunchItemTest, UsesUpTheNumberOfAnItemThatIsMissing) {
+    items.PutWholeUpTo(2);
+    const std::vector<CLaunchItem> list = LoadList(items.store);
+
+    EXPECT_TRUE(SaveList(items.store, std::vector<const CLaunchItem*>{&list[0], nullptr, &list[1]}));
+
+    EXPECT_FALSE(items.store.Has(settings::section::kLaunchItems, L"LaunchMenu02"));
+    EXPECT_EQ(items.store.Read(settings::keys::LaunchMenuItem, 3), items.LineOf(2, L"n2"));
+}
+
+TEST_F(LaunchItemTest, KeepsTheLinesThatCannotBeLoaded) {
+    items.PutWholeUpTo(3);
+    items.Put(4, L"p4.exe, , ,gone.exe,0,n4");
+    items.PutWhole(5);
+    const std::vector<CLaunchItem> list = LoadList(items.store);
+    ASSERT_EQ(list.size(), 3U);
+
+    const std::vector<std::wstring> unlisted = ReadLinesFrom(items.store, 3);
+    EXPECT_THAT(unlisted, ElementsAre(L"p4.exe, , ,gone.exe,0,n4", items.LineOf(5, L"n5")));
+    EXPECT_TRUE(SaveList(items.store, PointersTo(list), unlisted));
+
+    EXPECT_EQ(items.store.Read(settings::keys::LaunchMenuItem, 4), L"p4.exe, , ,gone.exe,0,n4");
+    EXPECT_EQ(items.store.Read(settings::keys::LaunchMenuItem, 5), items.LineOf(5, L"n5"));
+}
+
+TEST_F(LaunchItemTest, KeepsUnloadedLinesOnlyWhileThereIsRoom) {
+    items.PutWholeUpTo(38);
+    const std::vector<CLaunchItem> list = LoadList(items.store);
+
+    EXPECT_TRUE(SaveList(items.store, PointersTo(list), std::vector<std::wstring>{L"a", L"b"}));
+
+    EXPECT_EQ(items.store.sections[std::wstring{settings::section::kLaunchItems}].size(), 38U);
+}
+
+TEST_F(LaunchItemTest, CountsNoneOfTheProgramsOwnLinesAsUnlisted) {
+    EXPECT_THAT(ReadLinesFrom(items.store, 0), IsEmpty());
 }
 
 TEST_F(LaunchItemTest, LosesWhatFollowsACommaInTheName) {

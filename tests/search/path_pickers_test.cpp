@@ -97,6 +97,27 @@ TEST_F(PathPickers, GiveTheFileThatTheUserNamed) {
     EXPECT_EQ(PickFile(Host(), fw::LoadText(IDS_ALL_FILES_FILTER)), g_typed);
 }
 
+TEST_F(PathPickers, AskForAFileUnderTheGivenTitle) {
+    EXPECT_FALSE(PickFile(Host(), L"All|*.*||", {.title = L"プログラムの参照", .startFolder = {}}).has_value());
+
+    EXPECT_EQ(g_caption, L"プログラムの参照");
+}
+
+TEST_F(PathPickers, LookForAFileInTheFolderThatTheyAreGiven) {
+    const TempFolder folder;
+    folder.Write(L"資料 2.txt", "x");
+    g_typed = L"資料 2.txt";
+
+    EXPECT_EQ(PickFile(Host(), L"All|*.*||", {.title = {}, .startFolder = folder.Path() + L"\\"}),
+              folder.File(L"資料 2.txt"));
+}
+
+TEST_F(PathPickers, AskForAFileWhenTheFirstFolderIsGone) {
+    EXPECT_FALSE(PickFile(Host(), L"All|*.*||", {.title = L"t", .startFolder = L"C:\\no such folder"}).has_value());
+
+    EXPECT_EQ(g_caption, L"t");
+}
+
 TEST_F(PathPickers, AskForAFolderUnderTheGivenTitle) {
     const auto picked =
         PickFolder(Host(), fw::LoadText(IDS_BROWSE_FOLDER_TITLE), fw::LoadText(IDS_BROWSE_FOLDER_PROMPT));

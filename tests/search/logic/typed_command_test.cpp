@@ -108,3 +108,17 @@ TEST(OneLine, TakesALongText) {
 
     EXPECT_EQ(OnOneLine(text).size(), 199'999U);
 }
+
+TEST(TextWithinRoom, IsCutBehindTheLastCharacterThatFits) {
+    EXPECT_EQ(WithinRoom(L"abc", 3), L"abc");
+    EXPECT_EQ(WithinRoom(L"abc", 2), L"ab");
+    EXPECT_EQ(WithinRoom(L"abc", 0), L"");
+    EXPECT_EQ(WithinRoom(L"", 5), L"");
+}
+
+TEST(TextWithinRoom, HoldsNoHalfOfAPair) {
+    const std::wstring fish{L'a', wchar_t{0xD867}, wchar_t{0xDE3D}, L'b'};
+
+    EXPECT_EQ(WithinRoom(fish, 2), L"a");
+    EXPECT_EQ(WithinRoom(fish, 3), fish.substr(0, 3));
+}

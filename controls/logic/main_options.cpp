@@ -1,0 +1,69 @@
+#include "controls/logic/main_options.h"
+
+#include <algorithm>
+
+#include "base/format_text.h"
+#include "base/text.h"
+
+namespace korvane::controls {
+namespace {
+
+constexpr int kThemeColourRow = 0;
+constexpr int kSystemColourRow = 1;
+
+// More characters than this do not count.
+constexpr std::size_t kReadCharacters = 15;
+
+constexpr bool IsRowOf(int value, std::size_t rows) {
+    return value >= 0 && static_cast<std::size_t>(value) < rows;
+}
+
+} // namespace
+
+std::array<std::wstring, kDelayCount> DelayTexts() {
+    std::array<std::wstring, kDelayCount> texts;
+    int halves = 0;
+    for (std::wstring& text : texts) {
+        ++halves;
+        text = base::FormatText(L"%d.%d", halves / 2, halves % 2 * 5);
+    }
+    return texts;
+}
+
+int EdgeRow(int stored) {
+    return stored == 0 ? 0 : 1;
+}
+
+int ColourRow(int stored) {
+    return IsRowOf(stored, kColourTexts.size()) ? stored : kSystemColourRow;
+}
+
+int DelayRow(int stored) {
+    return std::clamp(stored, 0, kDelayCount - 1);
+}
+
+int FormatRow(int stored) {
+    return IsRowOf(stored, kFormatTexts.size()) ? stored : 0;
+}
+
+base::Colour ColourOfRow(int row, base::Colour system, base::Colour user) {
+    if (row == kThemeColourRow) return base::kThemeColour;
+    return row == kUserColourRow ? user : system;
+}
+
+std::wstring HistoryLengthText(int stored) {
+    return stored < 0 ? std::wstring{} : base::FormatText(L"%d", std::clamp(stored, kShortestHistory, kLongestHistory));
+}
+
+std::optional<int> HistoryLengthOf(std::wstring_view text) {
+    text = text.substr(0, kReadCharacters);
+    if (text.find_first_of(L"0123456789") == std::wstring_view::npos) return std::nullopt;
+    return std::clamp(base::LeadingInteger(text), kShortestHistory, kLongestHistory);
+}
+
+int HistoryLengthStep(int position, int step) {
+    // Downwards only: the arrows' own range ends where the number's does.
+    return std::max(step, kShortestHistory - position);
+}
+
+} // namespace korvane::controls

@@ -1,0 +1,23 @@
+#pragma once
+
+#include "framework/window.h"
+
+namespace korvane::controls {
+
+// A dialog's field for digits. The system's own with ES_NUMBER keeps other characters from being typed, but on some
+// Windows lets them be pasted.
+class NumberEdit final : public fw::Window<NumberEdit> {
+public:
+    static constexpr fw::WindowClass kClass{.name = L"NumberEdit_WndClass", .base = L"EDIT"};
+
+    static constexpr auto Messages() {
+        return fw::MessageMap{
+            fw::On<WM_PASTE>(&NumberEdit::OnPaste),
+        };
+    }
+
+private:
+    void OnPaste(const fw::Message& message);
+};
+
+} // namespace korvane::controls

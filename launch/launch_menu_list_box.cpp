@@ -1,0 +1,106 @@
+#include "launch/launch_menu_list_box.h"
+
+#include "base/colour.h"
+#include "base/text.h"
+#include "controls/logic/bar_colour.h"
+#include "framework/dpi.h"
+#include "framework/gdi.h"
+#include "launch/logic/launch_page.h"
+#include "launch/logic/launch_row_layout.h"
+
+namespace korvane::launch {
+namespace {
+
+// The items that stand on the launch buttons.
+constexpr base::Colour kButtonRowColour = base::Colour::Rgb(0, 104, 136);
+
+// On the dark window of a high-contrast scheme the blue-green could not be read.
+COLORREF TextColourOf(int row) {
+    const base::Colour window{::GetSysColor(COLOR_WINDOW)};
+    return IsButtonRow(row) && !controls::Vanishes(kButtonRowColour, window) ? fw::ToWindows(kButtonRowColour)
+                                                                             : ::GetSysColor(COLOR_WINDOWTEXT);
+}
+
+void DrawLine(HDC dc, const base::Rect& place, const std::wstring& text, UINT ellipsis) {
+    RECT r = fw::ToWindows(place);
+    ::DrawTextW(dc, text.c_str(), static_cast<int>(text.size()), &r,
+                DT_SINGLELINE | DT_VCENTER | DT_NOPREFIX | DT_NOCLIP | ellipsis);
+}
+
+} // namespace
+
+LRESULT CLaunchMenuListBox::OnCreate(const fw::Message& message) {
+    const LRESULT result = Default(message);
+    OpenTheme();
+    return result;
+}
+
+void CLaunchMenuListBox::SetLineHeight(int lineHeightPx) {
+    lineHeightPx_ = lineHeightPx;
+    ::SendMessageW(Handle(), LB_SETITEMHEIGHT, 0, RowHeight());
+}
+
+int CLaunchMenuListBox::RowHeight() const {
+    return LaunchRowHeight(lineHeightPx_, fw::Scale());
+}
+
+int CLaunchMenuListBox::Count() const {
+    return static_cast<int>(::SendMessageW(Handle(), LB_GETCOUNT, 0, 0));
+}
+
+int CLaunchMenuListBox::Selected() const {
+    return static_cast<int>(::SendMessageW(Handle(), LB_GETCURSEL, 0, 0));
+}
+
+void CLaunchMenuListBox::Select(int row) {
+    ::SendMessageW(Handle(), LB_SETCURSEL, static_cast<WPARAM>(row), 0);
+}
+
+CLaunchItem* CLaunchMenuListBox::ItemAt(int row) const {
+    if (row < 0 || row >= Count()) return nullptr;
+    return reinterpret_cast<CLaunchItem*>(::SendMessageW(Handle(), LB_GETITEMDATA, static_cast<WPARAM>(row), 0));
+}
+
+bool CLaunchMenuListBox::Insert(int row, CLaunchItem* item) {
+    const wchar_t* const text = item ? item->Name().c_str() : L"";
+    const LRESULT at =
+        ::SendMessageW(Handle(), LB_INSERTSTRING, static_cast<WPARAM>(row), reinterpret_cast<LPARAM>(text));
+    if (at < 0) return false;
+    ::SendMessageW(Handle(), LB_SETITEMDATA, static_cast<WPARAM>(at), reinterpret_cast<LPARAM>(item));
+    return true;
+}
+
+void CLaunchMenuListBox::Remove(int row) {
+    ::SendMessageW(Handle(), LB_DELETESTRING, static_cast<WPARAM>(row), 0);
+}
+
+LRESULT CLaunchMenuListBox::OnDrawItem(const DRAWITEMSTRUCT& item) {
+    // An empty list is drawn as one row that is none, for the focus.
+    if (static_cast<int>(item.itemID) < 0) return TRUE;
+    const base::Rect place = fw::FromWindows(item.rcItem);
+    const fw::SavedDc saved{item.hDC};
+    ::FillRect(item.hDC, &item.rcItem, ::GetSysColorBrush(COLOR_WINDOW));
+    DrawRow(item.hDC, static_cast<int>(item.itemID), place, (item.itemState & ODS_SELECTED) != 0);
+    if ((item.itemState & ODS_FOCUS) && !(item.itemState & ODS_NOFOCUSRECT)) controls::PaintRowFocus(item.hDC, place);
+    return TRUE;
+}
+
+void CLaunchMenuListBox::DrawRow(HDC dc, int row, const base::Rect& place, bool selected) const {
+    const LaunchRowLayout layout = LayOutLaunchRow(place, lineHeightPx_, fw::Scale());
+    const RECT line = fw::ToWindows(layout.line);
+    ::FillRect(dc, &line, ::GetSysColorBrush(COLOR_3DLIGHT));
+    if (selected) controls::PaintSelectedRow(CurrentTheme(), dc, place, windows8_);
+
+    const CLaunchItem* const item = ItemAt(row);
+    if (!item) return;
+    controls::PaintItemFrame(CurrentTheme(), dc, layout.frame);
+    if (item->Icon())
+        ::DrawIconEx(dc, layout.icon.left, layout.icon.top, item->Icon(), layout.icon.Width(), layout.icon.Height(), 0,
+                     nullptr, DI_NORMAL);
+    ::SetBkMode(dc, TRANSPARENT);
+    ::SetTextColor(dc, TextColourOf(row));
+    DrawLine(dc, layout.firstLine, RowLabel(row) + L" " + item->Name(), DT_END_ELLIPSIS);
+    DrawLine(dc, layout.secondLine, item->Path(), DT_PATH_ELLIPSIS);
+}
+
+} // namespace korvane::launch

@@ -1,0 +1,103 @@
+#pragma once
+
+#include <windows.h>
+
+#include <commctrl.h>
+
+#include "about/help_opener.h"
+#include "controls/opt_main_page.h"
+#include "controls/option_page.h"
+#include "framework/dialog.h"
+#include "framework/gdiplus_image.h"
+#include "framework/handle.h"
+#include "framework/image_list.h"
+#include "launch/logic/option_pages.h"
+#include "launch/opt_extra_page.h"
+#include "res/ids.h"
+#include "search/opt_command_page.h"
+
+namespace korvane::launch {
+
+// What the options work on. All of it outlives the dialog.
+struct OptionServices {
+    search::SearchStores stores;
+    search::UserCommandPlaces userCommands;
+    controls::HistoryKeeper& histories;
+    about::HelpOpener& help;
+};
+
+// The options: a tree of pages on a dark strip, and the page chosen in it. All pages are saved together.
+class COptionDialog final : public fw::Dialog<COptionDialog> {
+public:
+    static constexpr UINT kTemplate = IDD_OPTIONS;
+
+    static constexpr auto Messages() {
+        return fw::MessageMap{
+            fw::On<WM_INITDIALOG>(&COptionDialog::OnInitDialog),
+            fw::On<WM_DESTROY>(&COptionDialog::OnDestroy),
+            fw::On<WM_ERASEBKGND>(&COptionDialog::OnEraseBackground),
+            fw::On<WM_CTLCOLORSTATIC>(&COptionDialog::OnStaticColour),
+            fw::On<WM_CTLCOLORBTN>(&COptionDialog::OnStaticColour),
+            fw::On<WM_DISPLAYCHANGE>(&COptionDialog::OnDisplayChange),
+            fw::On<WM_SYSCOLORCHANGE>(&COptionDialog::OnSystemChange),
+            fw::On<WM_DWMCOLORIZATIONCOLORCHANGED>(&COptionDialog::OnSystemChange),
+            fw::On<WM_HELP>(&COptionDialog::OnHelpKey),
+            fw::OnNotify<IDC_OPTION_TREE, TVN_SELCHANGINGW>(&COptionDialog::OnPageChanging),
+            fw::OnNotify<IDC_OPTION_TREE, TVN_SELCHANGEDW>(&COptionDialog::OnPageChanged),
+            fw::OnNotify<IDC_OPTION_TREE, NM_CUSTOMDRAW>(&COptionDialog::OnDrawTree),
+            fw::OnCommand<IDC_OPTIONS_OK>(&COptionDialog::OnOk),
+            fw::OnCommand<IDCANCEL>(&COptionDialog::OnCancel),
+            fw::OnCommand<IDC_DIALOG_HELP>(&COptionDialog::OnHelp),
+        };
+    }
+
+    COptionDialog(OptionPage startPage, const OptionServices& services);
+
+    // True once everything was saved. The dialog's result would not tell: it is IDOK too when the program is told to
+    // quit while the dialog is open.
+    [[nodiscard]] bool Confirmed() const { return confirmed_; }
+
+    // Shows another page, unless the one on view holds input that it cannot leave.
+    void GoTo(OptionPage page);
+
+private:
+    bool OnInitDialog(HWND firstControl);
+    fw::Reply OnDestroy();
+    bool OnEraseBackground(HDC dc);
+    HBRUSH OnStaticColour(const fw::Message& message);
+    fw::Reply OnDisplayChange(UINT bitsPerPixel, SIZE screen);
+    fw::Reply OnSystemChange(const fw::Message& message);
+    LRESULT OnHelpKey(const fw::Message& message);
+    LRESULT OnPageChanging(NMTREEVIEWW& change);
+    void OnPageChanged(NMTREEVIEWW& change);
+    LRESULT OnDrawTree(NMTVCUSTOMDRAW& drawing);
+    void OnOk();
+    void OnCancel();
+    void OnHelp();
+
+    bool CreatePages();
+    void FillTree();
+    [[nodiscard]] HWND PageWindow(OptionPage page) const;
+    // The page of the selected tree item; the first when none is selected.
+    [[nodiscard]] OptionPage CurrentPage() const;
+    // True when the page's input is acceptable.
+    [[nodiscard]] bool Acceptable(OptionPage page) const;
+    [[nodiscard]] bool Save();
+
+    OptionPage startPage_;
+    about::HelpOpener& help_;
+    fw::UniqueIcon smallIcon_;
+    controls::COptMainPage mainPage_;
+    search::COptCommandPage commandPage_;
+    COptExtraPage launchPage_;
+
+    fw::UniqueImageList treeImages_;
+    fw::PngImage logo_;
+    base::Size logoSize_;
+    base::Point logoPlace_;
+    fw::UniqueBrush stripBrush_;
+    int stripEnd_ = 0; // the right edge of the tree
+    bool confirmed_ = false;
+};
+
+} // namespace korvane::launch

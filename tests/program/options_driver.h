@@ -1,0 +1,101 @@
+#pragma once
+
+#include <windows.h>
+
+#include <string>
+#include <string_view>
+
+#include "framework/gdi.h"
+#include "tests/program/program_test.h"
+
+namespace korvane::test {
+
+// The options' pages by the commands that open them.
+enum OptionsCommand : int { kMainOptions = 2009, kLaunchOptions = 4063, kCommandOptions = 5000 };
+
+// Controls of the options as the outside world knows them.
+inline constexpr int kOptionsOk = 6;
+inline constexpr int kOptionsCancel = 2;
+inline constexpr int kOptionsHelp = 1009;
+inline constexpr int kOptionsTree = 1023;
+
+[[nodiscard]] inline HWND FocusOf(HWND window) {
+    GUITHREADINFO info{};
+    info.cbSize = sizeof info;
+    return ::GetGUIThreadInfo(::GetWindowThreadProcessId(window, nullptr), &info) ? info.hwndFocus : nullptr;
+}
+
+// The program's dialog that holds a control of its own, once it has the keyboard; null when there is none at the
+// deadline.
+[[nodiscard]] inline HWND WaitForDialogWith(const Program& program, int control) {
+    return WaitUntil([&]() -> HWND {
+        for (const HWND window : WindowsOf(program.Id(), L"#32770"))
+            if (::GetDlgItem(window, control) && ::GetForegroundWindow() == window &&
+                ::IsChild(window, FocusOf(window)))
+                return WaitUntilIdle(window) ? window : nullptr;
+        return nullptr;
+    });
+}
+
+[[nodiscard]] inline bool WaitUntilGone(HWND window) {
+    return WaitUntil([&] { return !::IsWindow(window) || !::IsWindowVisible(window); });
+}
+
+// Opens the options and drives them with real keys and clicks.
+class OptionsTest : public ProgramTest {
+protected:
+    void SetUp() override {
+        ProgramTest::SetUp();
+        CloseWithoutQuestion();
+    }
+
+    // The bar with the options open on a page; null when they did not open.
+    HWND Open(const Program& program, OptionsCommand command) {
+        bar = program.WaitForBar();
+        if (!bar) return nullptr;
+        ::SetForegroundWindow(bar);
+        Command(bar, command);
+        return WaitForDialogWith(program, kOptionsTree);
+    }
+    // The page on view.
+    static HWND PageOf(HWND options) {
+        for (HWND child = ::GetWindow(options, GW_CHILD); child; child = ::GetWindow(child, GW_HWNDNEXT))
+            if (ClassOf(child) == L"#32770" && ::IsWindowVisible(child)) return child;
+        return nullptr;
+    }
+    // A control of the page on view.
+    static HWND On(HWND options, int id) { return ::GetDlgItem(PageOf(options), id); }
+    static std::wstring TextOn(HWND options, int id) { return TextOf(On(options, id)); }
+    static bool IsChecked(HWND options, int id) {
+        return ::SendMessageW(On(options, id), BM_GETCHECK, 0, 0) == BST_CHECKED;
+    }
+    static bool WaitForCaption(HWND options, const std::wstring& caption) {
+        return WaitUntil([&] { return TextOf(options) == caption; });
+    }
+    static bool WaitForFocus(HWND control) {
+        return WaitUntil([&] { return FocusOf(control) == control; });
+    }
+    static bool WaitUntilEnabled(HWND control, bool enabled = true) {
+        return WaitUntil([&] { return (::IsWindowEnabled(control) != FALSE) == enabled; });
+    }
+    // A letter with Alt.
+    static void Press(WORD letter) { PressKeys({VK_MENU, letter}); }
+    // Presses OK with the mouse and waits until the dialog is gone and the bar has taken everything over.
+    bool Confirm(HWND options) const {
+        Click(::GetDlgItem(options, kOptionsOk));
+        return WaitUntilGone(options) && WaitUntil([&] { return ::IsWindowEnabled(bar) != FALSE; }) &&
+               WaitUntilIdle(bar);
+    }
+    bool CancelByKey(HWND options) const {
+        PressKeys({VK_ESCAPE});
+        return WaitUntilGone(options) && WaitUntilIdle(bar);
+    }
+    bool CloseBar(const Program& program) const {
+        Close(bar);
+        return program.WaitForExit() == 0U;
+    }
+
+    HWND bar = nullptr;
+};
+
+} // namespace korvane::test
