@@ -231,6 +231,8 @@
 #define IDC_IMPORT_SOURCE           1045
 #define IDC_IMPORT_COUNT            1048
 #define IDC_IMPORT_LIST             1057
+#define IDC_IMPORT_PROGRESS         1069
+#define IDC_IMPORT_STOP             1070
 
 // Global hot keys.
 #define HOTKEY_SHOW_BAR             1000
@@ -373,6 +375,7 @@
 #define IDS_IMPORT_QUICK_LAUNCH     332
 #define IDS_IMPORT_ELSEWHERE        333
 #define IDS_IMPORT_FOLDER_PROMPT    334
+#define IDS_IMPORT_PROGRESS         335
 
 #define IDS_DELETE_COMMAND          1034
 #define IDS_CONFIRM_EXIT            57665
