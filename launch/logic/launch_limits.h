@@ -9,6 +9,11 @@ inline constexpr int MinLaunchItems = 3;
 // The buttons, and a menu entry for each of the characters 1 to 9 and A to Z.
 inline constexpr int MaxLaunchItems = 38;
 
+// How many more items there is room for.
+[[nodiscard]] constexpr int FreePlaces(int count) {
+    return count < MaxLaunchItems ? MaxLaunchItems - count : 0;
+}
+
 // Items are counted from 0 in list order. The first three have the commands of the launch buttons, the others those of
 // the launch menu's entries.
 [[nodiscard]] constexpr unsigned LaunchItemCommandId(int index) {

@@ -47,11 +47,6 @@ struct LaunchPageButtons {
     return std::min(deleted, countLeft - 1);
 }
 
-// How many more items there is room for.
-[[nodiscard]] constexpr int FreePlaces(int count) {
-    return std::max(MaxLaunchItems - count, 0);
-}
-
 // True for the rows that stand on the launch buttons.
 [[nodiscard]] constexpr bool IsButtonRow(int row) {
     return row < MinLaunchItems;

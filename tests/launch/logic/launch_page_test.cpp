@@ -66,6 +66,7 @@ TEST(RowAfterDelete, IsTheSameOrTheNewLast) {
 }
 
 TEST(FreePlaces, EndAtThirtyEightItems) {
+    EXPECT_EQ(FreePlaces(3), 35);
     EXPECT_EQ(FreePlaces(36), 2);
     EXPECT_EQ(FreePlaces(38), 0);
     EXPECT_EQ(FreePlaces(50), 0);
