@@ -4,12 +4,16 @@
 
 #include <shlwapi.h>
 
+#include <vector>
+
 #include "framework/program_path.h"
 #include "framework/version_information.h"
 #include "framework/windows_version.h"
 #include "launch/logic/item_name.h"
+#include "launch/logic/path_parts.h"
 #include "launch/registry_texts.h"
 #include "launch/search_path.h"
+#include "launch/shortcut_icon.h"
 
 namespace korvane::launch {
 namespace {
@@ -17,6 +21,14 @@ namespace {
 DroppedKind KindOf(const std::wstring& path) {
     if (::PathIsRootW(path.c_str()) && path.find(L':') != std::wstring::npos) return DroppedKind::kDrive;
     return ::PathIsDirectoryW(path.c_str()) ? DroppedKind::kFolder : DroppedKind::kFile;
+}
+
+std::vector<IconLocation> IconsOf(const std::wstring& path, DroppedKind kind) {
+    const WinRegistryTexts registry;
+    const bool windows7 = fw::IsWindowsAtLeast(fw::kWindows7);
+    if (kind == DroppedKind::kFile && IsShortcut(path))
+        return IconsForShortcut(path, ReadShortcutIcon(path), registry, windows7);
+    return IconsFor(path, kind, registry, windows7);
 }
 
 } // namespace
@@ -35,7 +47,7 @@ CLaunchItem ItemFromFile(const std::wstring& path) {
     const bool isFile = kind == DroppedKind::kFile;
     CLaunchItem item;
     item.Set(path, {}, {}, ItemNameFor(path, isFile ? fw::FileDescription(path) : std::wstring{}, isFile));
-    auto icons = IconsFor(path, kind, WinRegistryTexts{}, fw::IsWindowsAtLeast(fw::kWindows7));
+    auto icons = IconsOf(path, kind);
     if (auto program = fw::ProgramPath()) icons.push_back({*std::move(program), 0});
     GiveFirstIcon(item, icons);
     return item;

@@ -17,7 +17,9 @@ HKEY KeyOf(RegistryTexts::Root root) {
     return HKEY_LOCAL_MACHINE;
 }
 
-std::wstring Expanded(const std::wstring& text) {
+} // namespace
+
+std::wstring WithVariablesReplaced(const std::wstring& text) {
     std::wstring expanded(::ExpandEnvironmentStringsW(text.c_str(), nullptr, 0), L'\0');
     const DWORD length =
         ::ExpandEnvironmentStringsW(text.c_str(), expanded.data(), static_cast<DWORD>(expanded.size()));
@@ -26,8 +28,6 @@ std::wstring Expanded(const std::wstring& text) {
     expanded.resize(length - 1);
     return expanded;
 }
-
-} // namespace
 
 std::wstring WinRegistryTexts::Text(Root root, const std::wstring& key, const std::wstring& name) const {
     // Types whose icon stands in the system's folder often say so in a plain text, so both kinds are expanded here.
@@ -44,7 +44,7 @@ std::wstring WinRegistryTexts::Text(Root root, const std::wstring& key, const st
         status = ::RegGetValueW(KeyOf(root), key.c_str(), name.c_str(), kTexts, nullptr, text.data(), &bytes);
         if (status == ERROR_SUCCESS) {
             text.resize(text.find(L'\0'));
-            return text.empty() ? text : Expanded(text);
+            return text.empty() ? text : WithVariablesReplaced(text);
         }
     }
     return {};

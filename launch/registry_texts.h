@@ -6,6 +6,9 @@
 
 namespace korvane::launch {
 
+// A text in which each variable of the environment is replaced by its value.
+[[nodiscard]] std::wstring WithVariablesReplaced(const std::wstring& text);
+
 // The registry of Windows.
 class WinRegistryTexts final : public RegistryTexts {
 public:

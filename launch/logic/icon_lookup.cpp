@@ -113,4 +113,18 @@ std::vector<IconLocation> IconsFor(const std::wstring& path, DroppedKind kind, c
     return icons;
 }
 
+std::vector<IconLocation> IconsForShortcut(const std::wstring& path, const ShortcutIcon& shortcut,
+                                           const RegistryTexts& registry, bool windows7) {
+    std::vector<IconLocation> icons;
+    if (!shortcut.icon.file.empty()) icons.push_back({shortcut.icon.file, UsableIndex(shortcut.icon.index)});
+    if (!shortcut.target.empty()) {
+        for (IconLocation& icon : IconsFor(shortcut.target, shortcut.targetKind, registry, windows7))
+            icons.push_back(std::move(icon));
+        // The last resort comes once, at the end.
+        icons.pop_back();
+    }
+    for (IconLocation& icon : IconsFor(path, DroppedKind::kFile, registry, windows7)) icons.push_back(std::move(icon));
+    return icons;
+}
+
 } // namespace korvane::launch

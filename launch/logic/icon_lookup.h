@@ -30,6 +30,14 @@ protected:
 
 enum class DroppedKind : std::uint8_t { kFile, kFolder, kDrive };
 
+// What a shortcut says of its icon.
+struct ShortcutIcon {
+    IconLocation icon;   // without a file when it has none of its own and looks like its target
+    std::wstring target; // empty when it leads to no file or folder
+    DroppedKind targetKind = DroppedKind::kFile;
+    friend bool operator==(const ShortcutIcon&, const ShortcutIcon&) = default;
+};
+
 // Windows' own icon of a program, for what has no icon of its own. Since Windows 7 it stands one place further on.
 [[nodiscard]] IconLocation SystemProgramIcon(bool windows7);
 
@@ -45,5 +53,9 @@ enum class DroppedKind : std::uint8_t { kFile, kFolder, kDrive };
 // which the user last opened such files, and at last Windows' own icon.
 [[nodiscard]] std::vector<IconLocation> IconsFor(const std::wstring& path, DroppedKind kind,
                                                  const RegistryTexts& registry, bool windows7);
+
+// The same for a shortcut: its own icon, that of its target, and then as for any other file.
+[[nodiscard]] std::vector<IconLocation> IconsForShortcut(const std::wstring& path, const ShortcutIcon& shortcut,
+                                                         const RegistryTexts& registry, bool windows7);
 
 } // namespace korvane::launch

@@ -10,8 +10,7 @@ std::wstring ItemNameFor(std::wstring_view path, std::wstring_view description, 
     if (name.empty()) {
         name = FileNameOf(path);
         const std::wstring_view extension = ExtensionOf(name);
-        if (isFile && base::EqualIgnoringAsciiCase(extension, L".lnk") && extension.size() < name.size())
-            name.remove_suffix(extension.size());
+        if (isFile && IsShortcut(name) && extension.size() < name.size()) name.remove_suffix(extension.size());
     }
     return base::ReplaceAll(name, L"&", L"＆");
 }

@@ -39,6 +39,10 @@ bool IsProgramExtension(std::wstring_view extension) {
     });
 }
 
+bool IsShortcut(std::wstring_view path) {
+    return base::EqualIgnoringAsciiCase(ExtensionOf(path), L".lnk");
+}
+
 std::wstring TypedPath(std::wstring_view text) {
     std::wstring_view path = base::Trimmed(text);
     if (path.size() >= 2 && path.front() == L'"' && path.back() == L'"')

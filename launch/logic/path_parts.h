@@ -17,6 +17,8 @@ namespace korvane::launch {
 // Whether it is one of the programs that Windows starts by themselves: ".exe", ".com" and ".bat".
 [[nodiscard]] bool IsProgramExtension(std::wstring_view extension);
 
+[[nodiscard]] bool IsShortcut(std::wstring_view path);
+
 // A path as it was meant when it was typed or pasted: without blanks around it and without the quotation marks that
 // Explorer puts around a path that it copies.
 [[nodiscard]] std::wstring TypedPath(std::wstring_view text);

@@ -199,6 +199,24 @@ TEST_F(IconLookup, TakesShortcutsByTheirType) {
     EXPECT_THAT(Icons(L"C:\\f.lnk"), ElementsAre(IconLocation{L"shell.dll", 29}, kLast));
 }
 
+TEST_F(IconLookup, TakesAShortcutsOwnIconThenItsTargetsThenItsTypes) {
+    registry.texts[L"classes\\.txt\\DefaultIcon|"] = L"text.dll,1";
+    registry.texts[L"classes\\.lnk\\DefaultIcon|"] = L"link.dll,2";
+    registry.texts[L"classes\\Folder\\DefaultIcon|"] = L"folder.dll,3";
+    const auto icons = [this](const ShortcutIcon& shortcut) {
+        return IconsForShortcut(L"C:\\f.lnk", shortcut, registry, true);
+    };
+    const IconLocation link{L"link.dll", 2};
+
+    EXPECT_THAT(icons({{L"own.dll", -7}, L"C:\\f.txt"}),
+                ElementsAre(IconLocation{L"own.dll", -7}, IconLocation{L"text.dll", 1}, link, kLast));
+    EXPECT_THAT(icons({{}, L"C:\\p.exe"}), ElementsAre(IconLocation{L"C:\\p.exe", 0}, link, kLast));
+    EXPECT_THAT(icons({{}, L"C:\\tools.exe", DroppedKind::kFolder}),
+                ElementsAre(IconLocation{L"folder.dll", 3}, link, kLast));
+    EXPECT_THAT(icons({{L"own.dll", -1}, L""}), ElementsAre(IconLocation{L"own.dll", 0}, link, kLast));
+    EXPECT_THAT(icons({}), ElementsAre(link, kLast));
+}
+
 TEST_F(IconLookup, HasOnlyTheLastResortForATypeThatNobodyKnows) {
     EXPECT_THAT(Icons(L"C:\\f.unheard-of"), ElementsAre(kLast));
     EXPECT_THAT(Icons(L""), ElementsAre(kLast));
