@@ -13,6 +13,7 @@
 #include "framework/string_table.h"
 #include "framework/window_text.h"
 #include "launch/logic/import_rules.h"
+#include "launch/logic/launch_page.h"
 #include "launch/shortcut.h"
 #include "search/logic/folder_text.h"
 #include "search/path_pickers.h"

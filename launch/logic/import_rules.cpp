@@ -3,7 +3,6 @@
 #include <algorithm>
 
 #include "base/text.h"
-#include "launch/logic/launch_limits.h"
 
 namespace korvane::launch {
 namespace {
@@ -58,10 +57,6 @@ bool CanBeKept(const LaunchLineParts& parts) {
     return !parts.path.empty() && !parts.iconFile.empty() && !name.empty() && path == base::Trimmed(parts.path) &&
            arguments == base::Trimmed(parts.arguments) && folder == base::Trimmed(parts.workingFolder) &&
            iconFile == base::Trimmed(parts.iconFile) && base::LeadingInteger(indexText) == parts.iconIndex;
-}
-
-int FreePlaces(int count) {
-    return std::max(MaxLaunchItems - count, 0);
 }
 
 std::vector<int> RefusedRows(std::span<const ImportRow> rows, int places) {

@@ -48,9 +48,6 @@ enum class SourceStep : std::uint8_t { kNothing, kAskForFolder, kScanSpecialFold
 // that follow it in the list would be lost at the next start, so such a shortcut is not offered.
 [[nodiscard]] bool CanBeKept(const LaunchLineParts& parts);
 
-// How many items the launch menu still takes when it has `count`; so many may be selected.
-[[nodiscard]] int FreePlaces(int count);
-
 struct ImportRow {
     bool selectable;
     bool selected;

@@ -105,13 +105,6 @@ TEST(ImportRules, RefuseWhatWouldShiftTheFieldsBehindIt) {
     EXPECT_FALSE(CanBeKept(With(&LaunchLineParts::name, L",")));
 }
 
-TEST(ImportRules, HaveAsManyPlacesAsTheLaunchMenuStillTakes) {
-    EXPECT_EQ(FreePlaces(3), 35);
-    EXPECT_EQ(FreePlaces(37), 1);
-    EXPECT_EQ(FreePlaces(38), 0);
-    EXPECT_EQ(FreePlaces(50), 0);
-}
-
 constexpr ImportRow kGrey{false, true, false};
 constexpr ImportRow kNew{true, true, false};
 constexpr ImportRow kOld{true, true, true};
