@@ -1,6 +1,8 @@
 #include "launch/dropped_item.h"
 
 #include <gtest/gtest.h>
+#include <objbase.h>
+#include <shlobj.h>
 
 #include <memory>
 #include <span>
@@ -61,8 +63,8 @@ protected:
     // An item is only listed with an icon that can be got again.
     static void ExpectListed(const CLaunchItem& item) {
         test::FakeStore store;
-        const CLaunchItem* const listed = &item;
-        EXPECT_TRUE(SaveList(store, std::span{&listed, 1}));
+        const CLaunchItem* const list[] = {&item};
+        EXPECT_TRUE(SaveList(store, list));
         CLaunchItem again;
         EXPECT_TRUE(again.Load(store, 0, true));
         EXPECT_EQ(again.Format(), item.Format());
@@ -230,6 +232,56 @@ TEST_F(ItemFromFileTest, LeavesAShortcutAShortcut) {
     EXPECT_EQ(item.Path(), items.folder.File(L"メモ帳.lnk"));
     EXPECT_EQ(item.Name(), L"メモ帳");
     EXPECT_NE(item.Icon(), nullptr);
+    ExpectListed(item);
+}
+
+class ShortcutIconTest : public ItemFromFileTest {
+protected:
+    void SetUp() override { ASSERT_TRUE(SUCCEEDED(::CoInitialize(nullptr))); }
+    void TearDown() override { ::CoUninitialize(); }
+
+    // A shortcut file; without an icon of its own it looks like its target.
+    [[nodiscard]] std::wstring Shortcut(const std::wstring& target, const std::wstring& icon, int index) const {
+        const std::wstring file = items.folder.File(L"近道.lnk");
+        IShellLinkW* link = nullptr;
+        IPersistFile* persist = nullptr;
+        EXPECT_TRUE(SUCCEEDED(::CoCreateInstance(CLSID_ShellLink, nullptr, CLSCTX_INPROC_SERVER, IID_IShellLinkW,
+                                                 reinterpret_cast<void**>(&link))));
+        EXPECT_TRUE(SUCCEEDED(link->SetPath(target.c_str())));
+        if (!icon.empty()) {
+            EXPECT_TRUE(SUCCEEDED(link->SetIconLocation(icon.c_str(), index)));
+        }
+        EXPECT_TRUE(SUCCEEDED(link->QueryInterface(IID_IPersistFile, reinterpret_cast<void**>(&persist))));
+        EXPECT_TRUE(SUCCEEDED(persist->Save(file.c_str(), TRUE)));
+        persist->Release();
+        link->Release();
+        return file;
+    }
+};
+
+TEST_F(ShortcutIconTest, IsTheOneThatTheShortcutNames) {
+    const std::wstring icon = items.Icon(L"own.ico", kRed);
+    const std::wstring file = Shortcut(fw::ProgramPath().value(), icon, 0);
+
+    const CLaunchItem item = ItemFromFile(file);
+
+    EXPECT_EQ(item.Path(), file);
+    EXPECT_EQ(item.Name(), L"近道");
+    EXPECT_EQ(item.GetIconLocation(), (std::pair{icon, 0}));
+    ExpectListed(item);
+}
+
+TEST_F(ShortcutIconTest, IsThatOfTheTargetOtherwise) {
+    const std::wstring program = fw::ProgramPath().value();
+
+    EXPECT_EQ(ItemFromFile(Shortcut(program, {}, 0)).GetIconLocation(), (std::pair{program, 0}));
+}
+
+TEST_F(ShortcutIconTest, IsTheSystemsForABrokenShortcut) {
+    const CLaunchItem item = ItemFromFile(Shortcut(L"C:\\gone\\gone.exe", {}, 0));
+
+    EXPECT_EQ(item.Name(), L"近道");
+    EXPECT_EQ(item.GetIconLocation(), SystemIcon());
     ExpectListed(item);
 }
 
