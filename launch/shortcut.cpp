@@ -2,38 +2,19 @@
 
 #include <windows.h>
 
-#include <objbase.h>
-#include <shlobj.h>
-
 #include <array>
-#include <memory>
 
 #include "framework/icons.h"
 #include "launch/launch_item.h"
 #include "launch/logic/import_rules.h"
+#include "launch/logic/item_name.h"
+#include "launch/registry_texts.h"
+#include "launch/shell_link.h"
 
 namespace korvane::launch {
 namespace {
 
-struct ReleaseInterface {
-    void operator()(IUnknown* object) const { object->Release(); }
-};
-template <class T>
-using Interface = std::unique_ptr<T, ReleaseInterface>;
-
 using Buffer = std::array<wchar_t, MAX_PATH>;
-
-Interface<IShellLinkW> LoadLink(const std::wstring& file) {
-    void* created = nullptr;
-    if (FAILED(::CoCreateInstance(CLSID_ShellLink, nullptr, CLSCTX_INPROC_SERVER, IID_IShellLinkW, &created)))
-        return {};
-    Interface<IShellLinkW> link{static_cast<IShellLinkW*>(created)};
-    void* persist = nullptr;
-    if (FAILED(link->QueryInterface(IID_IPersistFile, &persist))) return {};
-    const Interface<IPersistFile> persistFile{static_cast<IPersistFile*>(persist)};
-    if (FAILED(persistFile->Load(file.c_str(), 0))) return {};
-    return link;
-}
 
 void Fill(ImportableItem& item, IShellLinkW& link) {
     constexpr int kLength = MAX_PATH;
@@ -72,28 +53,21 @@ fw::UniqueIcon AskForIcon(const ImportableItem& item, ShortcutRoots& roots) {
     return icon;
 }
 
-// A shortcut may name its icon by variables, which not every version of Windows fills in when it takes an icon.
-void FillInVariables(std::wstring& file) {
-    if (file.find(L'%') == std::wstring::npos) return;
-    Buffer whole{};
-    const DWORD length = ::ExpandEnvironmentStringsW(file.c_str(), whole.data(), static_cast<DWORD>(whole.size()));
-    if (length != 0 && length <= whole.size()) file = whole.data();
-}
-
 } // namespace
 
 ImportableItem UnresolvedItem(const std::wstring& file) {
     ImportableItem item;
-    item.name = DisplayName(file);
+    item.name = ItemNameFor(file, {}, true);
     return item;
 }
 
 ImportableItem ShellShortcutReader::Read(const std::wstring& file, ShortcutRoots& roots) {
     ImportableItem item = UnresolvedItem(file);
-    const Interface<IShellLinkW> link = LoadLink(file);
+    const auto link = LoadShellLink(file);
     if (!link) return item;
     Fill(item, *link);
-    FillInVariables(item.iconFile);
+    // Not every version of Windows fills variables in when it takes an icon.
+    item.iconFile = WithVariablesReplaced(item.iconFile);
     item.icon = AskForIcon(item, roots);
     item.selectable = item.icon && CanBeKept({.path = item.path,
                                               .arguments = item.arguments,

@@ -2,38 +2,15 @@
 
 #include <windows.h>
 
-#include <objbase.h>
-#include <shlobj.h>
-
 #include <array>
-#include <memory>
 
 #include "launch/registry_texts.h"
+#include "launch/shell_link.h"
 
 namespace korvane::launch {
-namespace {
-
-struct ReleaseInterface {
-    void operator()(IUnknown* object) const { object->Release(); }
-};
-template <class T>
-using Interface = std::unique_ptr<T, ReleaseInterface>;
-
-Interface<IShellLinkW> LoadLink(const std::wstring& file) {
-    void* created = nullptr;
-    if (FAILED(::CoCreateInstance(CLSID_ShellLink, nullptr, CLSCTX_INPROC_SERVER, IID_IShellLinkW, &created)))
-        return {};
-    Interface<IShellLinkW> link{static_cast<IShellLinkW*>(created)};
-    void* persist = nullptr;
-    if (FAILED(link->QueryInterface(IID_IPersistFile, &persist))) return {};
-    const Interface<IPersistFile> persistFile{static_cast<IPersistFile*>(persist)};
-    return SUCCEEDED(persistFile->Load(file.c_str(), STGM_READ)) ? std::move(link) : nullptr;
-}
-
-} // namespace
 
 ShortcutIcon ReadShortcutIcon(const std::wstring& file) {
-    const auto link = LoadLink(file);
+    const auto link = LoadShellLink(file);
     if (!link) return {};
     ShortcutIcon icon;
     std::array<wchar_t, MAX_PATH> text{};

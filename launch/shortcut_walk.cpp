@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "launch/logic/import_rules.h"
+#include "launch/logic/path_parts.h"
 #include "search/logic/folder_text.h"
 
 namespace korvane::launch {

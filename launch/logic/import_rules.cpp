@@ -7,9 +7,6 @@
 namespace korvane::launch {
 namespace {
 
-constexpr std::wstring_view kShortcutExtension = L".lnk";
-constexpr wchar_t kWideAmpersand = L'\uFF06';
-
 constexpr wchar_t SmallLetter(wchar_t c) {
     return c >= L'A' && c <= L'Z' ? static_cast<wchar_t>(c - L'A' + L'a') : c;
 }
@@ -35,20 +32,6 @@ bool ScansSubfolders(int source) {
 
 bool IsDotEntry(std::wstring_view name) {
     return name == L"." || name == L"..";
-}
-
-bool IsShortcut(std::wstring_view fileName) {
-    const std::size_t length = kShortcutExtension.size();
-    return fileName.size() >= length &&
-           base::EqualIgnoringAsciiCase(fileName.substr(fileName.size() - length), kShortcutExtension);
-}
-
-std::wstring DisplayName(std::wstring_view path) {
-    std::wstring_view name = path.substr(path.find_last_of(L'\\') + 1);
-    if (IsShortcut(name) && name.size() > kShortcutExtension.size()) name.remove_suffix(kShortcutExtension.size());
-    std::wstring shown{name};
-    std::replace(shown.begin(), shown.end(), L'&', kWideAmpersand);
-    return shown;
 }
 
 bool CanBeKept(const LaunchLineParts& parts) {

@@ -38,11 +38,6 @@ enum class SourceStep : std::uint8_t { kNothing, kAskForFolder, kScanSpecialFold
 
 // The entries that every folder has for itself and for the one above.
 [[nodiscard]] bool IsDotEntry(std::wstring_view name);
-[[nodiscard]] bool IsShortcut(std::wstring_view fileName);
-
-// What a shortcut is called in the list and in the launch menu. An ampersand becomes a wide one: the menu's texts begin
-// with an access key, which a second ampersand would take over.
-[[nodiscard]] std::wstring DisplayName(std::wstring_view path);
 
 // A launch item is kept as one line without quoting. Where that line reads back as something else, the item and all
 // that follow it in the list would be lost at the next start, so such a shortcut is not offered.

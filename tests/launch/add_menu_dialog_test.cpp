@@ -16,10 +16,10 @@
 #include "tests/launch/launch_items.h"
 #include "tests/launch/system_icons.h"
 #include "tests/support/canvas.h"
-#include "tests/support/dialog_answer.h"
 #include "tests/support/fake_help.h"
 #include "tests/support/gdi_objects.h"
 #include "tests/support/message_box_answer.h"
+#include "tests/support/modal_dialog_answer.h"
 #include "tests/support/solid_icon.h"
 #include "tests/support/window_test.h"
 
@@ -466,7 +466,7 @@ TEST_F(AddMenuDialog, HasNoIconWhereEvenTheSystemHasNone) {
 
 TEST_F(AddMenuDialog, BrowsesForAProgramUnderItsTitle) {
     Open(Whole());
-    const test::DialogAnswer answer;
+    const test::ModalDialogAnswer answer{IDCANCEL};
 
     Command(1054);
 
@@ -478,7 +478,7 @@ TEST_F(AddMenuDialog, BrowsesForAFolderAndKeepsTheOldOneWhenThatIsCancelled) {
     ASSERT_TRUE(SUCCEEDED(::CoInitialize(nullptr)));
     Open(Whole());
     {
-        const test::DialogAnswer answer;
+        const test::ModalDialogAnswer answer{IDCANCEL};
 
         Command(1060);
 
@@ -492,12 +492,12 @@ TEST_F(AddMenuDialog, ChangesTheIconWithThePicker) {
     Open(Whole());
     const std::wstring green = items.Icon(L"green.ico", kGreen);
     std::wstring offered;
-    test::DialogAnswer answer{[&](HWND picker) {
-        offered = fw::WindowText(::GetDlgItem(picker, 1039));
-        ::SetWindowTextW(::GetDlgItem(picker, 1039), green.c_str());
-        ::PostMessageW(picker, WM_NEXTDLGCTL, reinterpret_cast<WPARAM>(::GetDlgItem(picker, 1056)), TRUE);
-        ::PostMessageW(picker, WM_COMMAND, IDOK, 0);
-    }};
+    test::ModalDialogAnswer answer{IDOK, [&](HWND picker) {
+                                       offered = fw::WindowText(::GetDlgItem(picker, 1039));
+                                       ::SetWindowTextW(::GetDlgItem(picker, 1039), green.c_str());
+                                       ::PostMessageW(picker, WM_NEXTDLGCTL,
+                                                      reinterpret_cast<WPARAM>(::GetDlgItem(picker, 1056)), TRUE);
+                                   }};
 
     Command(1055);
 
@@ -509,7 +509,7 @@ TEST_F(AddMenuDialog, ChangesTheIconWithThePicker) {
 
 TEST_F(AddMenuDialog, KeepsTheIconWhenThePickerIsCancelled) {
     Open(Whole());
-    const test::DialogAnswer answer;
+    const test::ModalDialogAnswer answer{IDCANCEL};
 
     Command(1055);
 
@@ -521,10 +521,8 @@ TEST_F(AddMenuDialog, OffersTheSystemsIconsWhenTheItemHasNone) {
     Open();
     SetText(1051, L"p");
     std::wstring offered;
-    test::DialogAnswer answer{[&](HWND picker) {
-        offered = fw::WindowText(::GetDlgItem(picker, 1039));
-        ::PostMessageW(picker, WM_COMMAND, IDCANCEL, 0);
-    }};
+    test::ModalDialogAnswer answer{IDCANCEL,
+                                   [&](HWND picker) { offered = fw::WindowText(::GetDlgItem(picker, 1039)); }};
 
     Command(1055);
 

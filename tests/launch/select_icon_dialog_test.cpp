@@ -10,10 +10,10 @@
 #include "framework/dpi.h"
 #include "framework/window_text.h"
 #include "tests/support/canvas.h"
-#include "tests/support/dialog_answer.h"
 #include "tests/support/fake_help.h"
 #include "tests/support/gdi_objects.h"
 #include "tests/support/icon_library.h"
+#include "tests/support/modal_dialog_answer.h"
 #include "tests/support/refused_window.h"
 #include "tests/support/solid_icon.h"
 #include "tests/support/temp_folder.h"
@@ -217,10 +217,10 @@ TEST_F(SelectIconDialog, ClosesWithADoubleClickOnARow) {
 }
 
 TEST_F(SelectIconDialog, IsCancelledByADoubleClickOnNothing) {
-    test::DialogAnswer answer{[](HWND opened) {
-        ::PostMessageW(opened, WM_COMMAND, MAKEWPARAM(1056, LBN_DBLCLK),
-                       reinterpret_cast<LPARAM>(::GetDlgItem(opened, 1056)));
-    }};
+    test::ModalDialogAnswer answer{test::ModalDialogAnswer::kNoButton, [](HWND opened) {
+                                       ::PostMessageW(opened, WM_COMMAND, MAKEWPARAM(1056, LBN_DBLCLK),
+                                                      reinterpret_cast<LPARAM>(::GetDlgItem(opened, 1056)));
+                                   }};
     CSelectIconDialog picker{folder.File(L"gone.dll"), 0, nullptr, help};
 
     EXPECT_EQ(picker.ShowModal(Host()), IDCANCEL);
@@ -371,7 +371,7 @@ TEST_F(SelectIconDialog, ClosesAtOnceWhenThereIsNoListToBeHad) {
 TEST_F(SelectIconDialog, BrowsesUnderItsTitle) {
     const std::wstring file = Library({kRed});
     Open(file, 0);
-    const test::DialogAnswer answer;
+    const test::ModalDialogAnswer answer{IDCANCEL};
 
     Command(1011);
 

@@ -14,6 +14,9 @@ namespace korvane::test {
 // `before` is called with the dialog first. One at a time.
 class ModalDialogAnswer {
 public:
+    // `before` does all that is to be done.
+    static constexpr int kNoButton = 0;
+
     explicit ModalDialogAnswer(int button, std::function<void(HWND)> before = {})
         : ModalDialogAnswer{kAnyDialog, button, std::move(before)} {}
     // Only the dialogs that have a certain control.
@@ -48,7 +51,7 @@ private:
         caption_ = fw::WindowText(dialog);
         owner_ = ::GetWindow(dialog, GW_OWNER);
         if (before_) before_(dialog);
-        ::PostMessageW(dialog, WM_COMMAND, static_cast<WPARAM>(button_), 0);
+        if (button_ != kNoButton) ::PostMessageW(dialog, WM_COMMAND, static_cast<WPARAM>(button_), 0);
     }
 
     static inline ModalDialogAnswer* current_ = nullptr;

@@ -40,34 +40,11 @@ TEST(ImportSources, LeadToTheirFolders) {
     EXPECT_EQ(StepForSource(0, -1), SourceStep::kScanSpecialFolder);
 }
 
-TEST(ImportRules, KnowShortcutsInSmallLettersAndCapitals) {
-    EXPECT_TRUE(IsShortcut(L"a.lnk"));
-    EXPECT_TRUE(IsShortcut(L"A.LNK"));
-    EXPECT_TRUE(IsShortcut(L"メモ帳.Lnk"));
-    EXPECT_TRUE(IsShortcut(L"a.txt.lnk"));
-    EXPECT_FALSE(IsShortcut(L"a.lnk.txt"));
-    EXPECT_FALSE(IsShortcut(L"alnk"));
-    EXPECT_FALSE(IsShortcut(L"a.url"));
-    EXPECT_FALSE(IsShortcut(L"lnk"));
-    EXPECT_FALSE(IsShortcut(L""));
-}
-
 TEST(ImportRules, PassOverTheEntriesForAFolderItself) {
     EXPECT_TRUE(IsDotEntry(L"."));
     EXPECT_TRUE(IsDotEntry(L".."));
     EXPECT_FALSE(IsDotEntry(L"..."));
     EXPECT_FALSE(IsDotEntry(L".a"));
-}
-
-TEST(ImportRules, CallAShortcutByItsFileNameWithoutExtension) {
-    EXPECT_EQ(DisplayName(L"C:\\a.b\\メモ帳.lnk"), L"メモ帳");
-    EXPECT_EQ(DisplayName(L"C:\\a\\Ver 1.5.LNK"), L"Ver 1.5");
-    EXPECT_EQ(DisplayName(L"a.lnk"), L"a");
-    EXPECT_EQ(DisplayName(L"C:\\a\\.lnk"), L".lnk");
-}
-
-TEST(ImportRules, LeaveNoAmpersandInAName) {
-    EXPECT_EQ(DisplayName(L"C:\\a\\Cut & Paste.lnk"), L"Cut ＆ Paste");
 }
 
 constexpr LaunchLineParts kWhole{.path = L"C:\\p.exe",

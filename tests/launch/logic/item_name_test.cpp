@@ -22,6 +22,8 @@ TEST(ItemName, LeavesTheExtensionOfAShortcutOut) {
     EXPECT_EQ(ItemNameFor(L"C:\\メモ帳.lnk", L"", true), L"メモ帳");
     EXPECT_EQ(ItemNameFor(L"C:\\v1.0.LNK", L"", true), L"v1.0");
     EXPECT_EQ(ItemNameFor(L"C:\\.lnk", L"", true), L".lnk");
+    EXPECT_EQ(ItemNameFor(L"C:\\a.b\\Ver 1.5.LNK", L"", true), L"Ver 1.5");
+    EXPECT_EQ(ItemNameFor(L"a.lnk", L"", true), L"a");
 }
 
 TEST(ItemName, HoldsNoAmpersand) {

@@ -65,4 +65,16 @@ TEST(PathParts, TakePathsOfAbsurdLength) {
     EXPECT_EQ(TypedPath(path), path);
 }
 
+TEST(PathParts, KnowShortcutsInSmallLettersAndCapitals) {
+    EXPECT_TRUE(IsShortcut(L"a.lnk"));
+    EXPECT_TRUE(IsShortcut(L"A.LNK"));
+    EXPECT_TRUE(IsShortcut(L"メモ帳.Lnk"));
+    EXPECT_TRUE(IsShortcut(L"a.txt.lnk"));
+    EXPECT_FALSE(IsShortcut(L"a.lnk.txt"));
+    EXPECT_FALSE(IsShortcut(L"alnk"));
+    EXPECT_FALSE(IsShortcut(L"a.url"));
+    EXPECT_FALSE(IsShortcut(L"lnk"));
+    EXPECT_FALSE(IsShortcut(L""));
+}
+
 } // namespace
