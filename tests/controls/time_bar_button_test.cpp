@@ -106,7 +106,7 @@ TEST_F(TimeBarButton, ShowsNothingForSettingsWithoutAText) {
     Put(button, kRect, kId);
     TakeThemeAway(button);
 
-    for (const int setting : {7, -1, 5, 1'000'000, -1'000'000}) {
+    for (const int setting : {7, 5, 1'000'000, -1'000'000}) {
         button.SetFormat(kTime);
         button.SetFormat(ClockFormatOf(setting));
         EXPECT_EQ(button.Text(), L"") << setting;

@@ -28,11 +28,6 @@ protected:
     static void HideAfter(DWORD index) { WriteSetting(kSettings, L"DesktopBarAutoHideSecond", index); }
     // What a timer's message does, without the wait.
     static void Expire(HWND bar, UINT_PTR timer) { ::SendMessageW(bar, WM_TIMER, timer, 0); }
-    static void Touch(HWND strip, LONG besideMiddle = 0) {
-        RECT rect{};
-        ::GetWindowRect(strip, &rect);
-        PutMouse((rect.left + rect.right) / 2 + besideMiddle, rect.top);
-    }
     void TakeTheMouseAway() const { PutMouse(width_ / 2, height_ / 2); }
 
     // Starts with the strip on the screen; null when it does not come.
@@ -40,16 +35,6 @@ protected:
         const HWND bar = program.WaitForBar();
         return bar != nullptr && PlaceIn(bar, strip_) == strip_ ? bar : nullptr;
     }
-    // A busy display server can swallow a movement; a user would move the mouse once more, too.
-    bool SlideOut(HWND bar) const {
-        for (LONG attempt = 0; attempt < 5; ++attempt) {
-            Touch(bar, attempt);
-            const auto out = [&] { return ::IsWindowVisible(bar) && PlaceOf(bar) == whole_; };
-            if (WaitUntil(out, std::chrono::seconds{4})) return WaitUntilIdle(bar);
-        }
-        return false;
-    }
-
     const std::string whole_ = TopOf(screen_);
     const std::string strip_ = TopOf(screen_, 1);
 };
@@ -168,7 +153,7 @@ TEST_P(HideDelay, PassesBeforeTheBarSlidesInAgain) {
     const HWND bar = WaitForStrip(program);
     ASSERT_NE(bar, nullptr);
     const auto touched = steady_clock::now();
-    ASSERT_TRUE(SlideOut(bar));
+    ASSERT_TRUE(SlideOut(bar, whole_));
 
     TakeTheMouseAway();
 
@@ -182,7 +167,7 @@ TEST_F(AutoHide, StaysOutWhileTheMouseIsOnTheBar) {
     const Program program;
     const HWND bar = WaitForStrip(program);
     ASSERT_NE(bar, nullptr);
-    ASSERT_TRUE(SlideOut(bar));
+    ASSERT_TRUE(SlideOut(bar, whole_));
 
     Expire(bar, kHideCheck);
     EXPECT_EQ(PlaceOf(bar), whole_);
@@ -198,7 +183,7 @@ TEST_P(MenuOfTheBar, KeepsItOutWhileItIsOpen) {
     const Program program;
     const HWND bar = WaitForStrip(program);
     ASSERT_NE(bar, nullptr);
-    ASSERT_TRUE(SlideOut(bar));
+    ASSERT_TRUE(SlideOut(bar, whole_));
     TakeTheMouseAway();
     Command(bar, GetParam());
     ASSERT_TRUE(WaitUntil([] { return !AllWindows(L"#32768").empty(); }));
@@ -219,7 +204,7 @@ TEST_F(AutoHide, StaysOutWhileAHistoryIsOpen) {
     const Program program;
     const HWND bar = WaitForStrip(program);
     ASSERT_NE(bar, nullptr);
-    ASSERT_TRUE(SlideOut(bar));
+    ASSERT_TRUE(SlideOut(bar, whole_));
     TakeTheMouseAway();
     const auto windowsOfTheProgram = [&] { return WindowsOf(program.Id()).size(); };
     const auto before = windowsOfTheProgram();
@@ -236,7 +221,7 @@ TEST_F(AutoHide, StaysOutWhileAMessageBoxAsks) {
     const Program program;
     const HWND bar = WaitForStrip(program);
     ASSERT_NE(bar, nullptr);
-    ASSERT_TRUE(SlideOut(bar));
+    ASSERT_TRUE(SlideOut(bar, whole_));
     TakeTheMouseAway();
     Close(bar);
     const auto box = program.WaitForBox();
@@ -319,7 +304,7 @@ TEST_F(AutoHide, StaysInUnderAFullScreenProgram) {
 
     shell_.Notify(ABN_FULLSCREENAPP, FALSE);
     TakeTheMouseAway();
-    EXPECT_TRUE(SlideOut(bar));
+    EXPECT_TRUE(SlideOut(bar, whole_));
 }
 
 // ---- The controls that hide with the bar
@@ -349,7 +334,7 @@ TEST_F(AutoHide, HidesSomeControlsWithTheBar) {
     EXPECT_FALSE(ShowsClock(bar));
     EXPECT_THAT(Visible(bar, kNeverHidden), testing::SizeIs(kNeverHidden.size()));
 
-    ASSERT_TRUE(SlideOut(bar));
+    ASSERT_TRUE(SlideOut(bar, whole_));
     EXPECT_THAT(Visible(bar, kHiddenWithTheBar), testing::SizeIs(kHiddenWithTheBar.size()));
     EXPECT_TRUE(ShowsClock(bar));
 
@@ -364,7 +349,7 @@ TEST_F(AutoHide, ShowsNoClockThatTheUserDoesNotWant) {
     const HWND bar = WaitForStrip(program);
     ASSERT_NE(bar, nullptr);
 
-    ASSERT_TRUE(SlideOut(bar));
+    ASSERT_TRUE(SlideOut(bar, whole_));
 
     EXPECT_FALSE(ShowsClock(bar));
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <array>
+#include <chrono>
 #include <string>
 
 #include "tests/program/bar_picture.h"
@@ -45,6 +46,21 @@ protected:
             ::GetCursorPos(&at);
             return at.x == x && at.y == y;
         });
+    }
+
+    static void Touch(HWND strip, LONG besideMiddle = 0) {
+        RECT rect{};
+        ::GetWindowRect(strip, &rect);
+        PutMouse((rect.left + rect.right) / 2 + besideMiddle, rect.top);
+    }
+    // A busy display server can swallow a movement; a user would move the mouse once more, too.
+    static bool SlideOut(HWND bar, const std::string& whole) {
+        for (LONG attempt = 0; attempt < 5; ++attempt) {
+            Touch(bar, attempt);
+            const auto out = [&] { return ::IsWindowVisible(bar) && PlaceOf(bar) == whole; };
+            if (WaitUntil(out, std::chrono::seconds{4})) return WaitUntilIdle(bar);
+        }
+        return false;
     }
 
     static std::string PlaceOf(HWND window) {

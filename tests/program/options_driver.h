@@ -2,6 +2,7 @@
 
 #include <windows.h>
 
+#include <chrono>
 #include <string>
 #include <string_view>
 
@@ -39,6 +40,16 @@ inline constexpr int kOptionsTree = 1023;
 
 [[nodiscard]] inline bool WaitUntilGone(HWND window) {
     return WaitUntil([&] { return !::IsWindow(window) || !::IsWindowVisible(window); });
+}
+
+// Clicks a button that closes its dialog. A busy display server can swallow a click; a user would click once more, too.
+[[nodiscard]] inline bool ClickAway(HWND dialog, int button) {
+    for (int attempt = 0; attempt < 5; ++attempt) {
+        Click(::GetDlgItem(dialog, button));
+        if (WaitUntil([&] { return !::IsWindow(dialog) || !::IsWindowVisible(dialog); }, std::chrono::seconds{4}))
+            return true;
+    }
+    return false;
 }
 
 // Opens the options and drives them with real keys and clicks.
@@ -82,8 +93,7 @@ protected:
     static void Press(WORD letter) { PressKeys({VK_MENU, letter}); }
     // Presses OK with the mouse and waits until the dialog is gone and the bar has taken everything over.
     bool Confirm(HWND options) const {
-        Click(::GetDlgItem(options, kOptionsOk));
-        return WaitUntilGone(options) && WaitUntil([&] { return ::IsWindowEnabled(bar) != FALSE; }) &&
+        return ClickAway(options, kOptionsOk) && WaitUntil([&] { return ::IsWindowEnabled(bar) != FALSE; }) &&
                WaitUntilIdle(bar);
     }
     bool CancelByKey(HWND options) const {

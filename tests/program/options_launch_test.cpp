@@ -182,8 +182,7 @@ TEST_F(LaunchOptions, AddAnItemByKeyboardAlone) {
     ASSERT_TRUE(WaitUntil([&] { return ::SendMessageW(::GetDlgItem(picker, kIconList), LB_GETCURSEL, 0, 0) == 0; }));
     PressKeys({VK_RETURN});
     ASSERT_TRUE(WaitUntilGone(picker));
-    Click(::GetDlgItem(editor, IDOK));
-    ASSERT_TRUE(WaitUntilGone(editor));
+    ASSERT_TRUE(ClickAway(editor, IDOK));
 
     ASSERT_TRUE(WaitForNames(options, {L"項目1", L"メモ", L"項目2", L"項目3", L"項目4", L"項目5"}));
     ASSERT_TRUE(Confirm(options));
@@ -198,18 +197,13 @@ TEST_F(LaunchOptions, InsertANewFirstButtonWithShift) {
     const Program program;
     const HWND options = Open(program, kLaunchOptions);
     ASSERT_NE(options, nullptr);
-    ::SetFocus(nullptr);
+    ASSERT_TRUE(WaitUntil([&] {
+        if (FocusOf(options) != On(options, kAdd)) PressKeys({VK_TAB});
+        return FocusOf(options) == On(options, kAdd);
+    }));
 
-    // Shift is held while the button is clicked.
-    INPUT down{};
-    down.type = INPUT_KEYBOARD;
-    down.ki.wVk = VK_SHIFT;
-    ::SendInput(1, &down, sizeof down);
-    Click(On(options, kAdd));
+    PressKeys({VK_SHIFT, VK_SPACE});
     const HWND editor = WaitForDialogWith(program, kProgram);
-    INPUT up = down;
-    up.ki.dwFlags = KEYEVENTF_KEYUP;
-    ::SendInput(1, &up, sizeof up);
     ASSERT_NE(editor, nullptr);
     ASSERT_TRUE(Retype(editor, kProgram, 'P', recorder::Folder() + L"\\rec.exe"));
     ASSERT_TRUE(Retype(editor, kName, 'N', L"先頭"));
@@ -223,10 +217,8 @@ TEST_F(LaunchOptions, InsertANewFirstButtonWithShift) {
     PressKeys({VK_HOME});
     PressKeys({VK_SPACE});
     ASSERT_TRUE(WaitUntil([&] { return ::SendMessageW(::GetDlgItem(picker, kIconList), LB_GETCURSEL, 0, 0) == 0; }));
-    Click(::GetDlgItem(picker, IDOK));
-    ASSERT_TRUE(WaitUntilGone(picker));
-    Click(::GetDlgItem(editor, IDOK));
-    ASSERT_TRUE(WaitUntilGone(editor));
+    ASSERT_TRUE(ClickAway(picker, IDOK));
+    ASSERT_TRUE(ClickAway(editor, IDOK));
 
     EXPECT_TRUE(WaitForNames(options, {L"先頭", L"項目1", L"項目2", L"項目3", L"項目4", L"項目5"}));
     EXPECT_TRUE(WaitForRow(options, 0));

@@ -1,4 +1,5 @@
 // The options as a whole, and their page for the bar itself, from outside.
+#include <array>
 #include <optional>
 
 #include "tests/program/docked_bar.h"
@@ -321,10 +322,12 @@ TEST_F(Options, ShowTheClockAsItWillBe) {
     Press('F');
     PressKeys({VK_END});
 
-    // "99/99/99"
     EXPECT_TRUE(WaitUntil([&] {
-        const std::wstring text = TextOn(options, kSample);
-        return text.size() == 8 && text[2] == L'/' && text[5] == L'/';
+        SYSTEMTIME now{};
+        ::GetLocalTime(&now);
+        std::array<wchar_t, 20> date{};
+        ::wsprintfW(date.data(), L"%02u/%02u/%02u", now.wYear, now.wMonth, now.wDay);
+        return TextOn(options, kSample) == date.data();
     }));
 }
 
@@ -398,12 +401,7 @@ TEST_F(OptionsOfTheDockedBar, KeepItOutWhileTheyAreOpen) {
     ASSERT_NE(bar, nullptr);
     const std::string strip = TopOf(screen_, 1);
     ASSERT_EQ(PlaceIn(bar, strip), strip);
-    ASSERT_TRUE(WaitUntil([&] {
-        RECT rect{};
-        ::GetWindowRect(bar, &rect);
-        PutMouse((rect.left + rect.right) / 2, rect.top);
-        return PlaceOf(bar) == TopOf(screen_);
-    }));
+    ASSERT_TRUE(SlideOut(bar, TopOf(screen_)));
 
     Command(bar, kMainOptions);
     const HWND options = WaitForDialogWith(program, kOptionsTree);
@@ -429,8 +427,7 @@ TEST_F(OptionsOfTheDockedBar, MakeItHideItself) {
     ASSERT_NE(options, nullptr);
 
     PressKeys({VK_MENU, 'U'});
-    Click(::GetDlgItem(options, kOptionsOk));
-    ASSERT_TRUE(WaitUntilGone(options));
+    ASSERT_TRUE(ClickAway(options, kOptionsOk));
     PutMouse(width_ / 2, height_ / 2);
 
     const std::string strip = TopOf(screen_, 1);
