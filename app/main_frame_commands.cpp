@@ -241,8 +241,10 @@ void CMainFrame::ClearHistories() {
 void CMainFrame::OpenOptions(UINT command) {
     const launch::OptionPage page = launch::OptionPageOf(command);
     if (options_) {
-        ::SetForegroundWindow(options_->Handle());
-        options_->GoTo(page);
+        // Over the options there may be a dialog or a message of theirs.
+        const HWND top = ::GetLastActivePopup(options_->Handle());
+        ::SetForegroundWindow(top);
+        if (top == options_->Handle()) options_->GoTo(page);
         return;
     }
     // A tool that was installed since the start can then be put into a command.

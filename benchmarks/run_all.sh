@@ -18,6 +18,9 @@ wine "$build/benchmarks/menu_bench.exe"
 say "The calendar pop-up and the clock: 50 openings, 1,000 months, $idle seconds"
 wine "$build/benchmarks/calendar_bench.exe" "$idle"
 
+say 'The options: 30 openings of each page, 30 confirmations, 2,000 shortcuts'
+wine "$build/benchmarks/options_bench.exe"
+
 key='HKCU\Software\Dunmere Software\Korvane\Settings'
 set_number() { wine reg add "$1" /v "$2" /t REG_DWORD /d "$3" /f >/dev/null; }
 say "The bar with its clock, idle for $idle seconds"

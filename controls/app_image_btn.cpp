@@ -26,6 +26,14 @@ bool CAppImageBtn::Replace(HWND dialog, int id) {
     return fw::TakePlace(*this, dialog, id, {.without = BS_TYPEMASK});
 }
 
+// The dialog manager does not know an owner-drawn button for a push button, and would take Enter on it for the default
+// button's. Said to be one, it would be given the style of one in the place of the owner-draw style.
+LRESULT CAppImageBtn::OnDialogCode(const fw::Message& message) {
+    const auto* const key = reinterpret_cast<const MSG*>(message.lparam);
+    const bool enter = key && key->message == WM_KEYDOWN && key->wParam == VK_RETURN;
+    return DLGC_BUTTON | (enter ? DLGC_WANTMESSAGE : 0);
+}
+
 void CAppImageBtn::Paint(HDC dc, const base::Rect& area, const ButtonFacts& facts) {
     const ButtonState state = StateOf(facts);
     const bool themed = static_cast<bool>(CurrentTheme());

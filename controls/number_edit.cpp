@@ -6,6 +6,14 @@
 
 namespace korvane::controls {
 
+LRESULT NumberEdit::OnCharacter(const fw::Message& message) {
+    constexpr WPARAM kWideZero = 0xFF10;
+    constexpr WPARAM kWideNine = 0xFF19;
+    fw::Message typed = message;
+    if (typed.wparam >= kWideZero && typed.wparam <= kWideNine) typed.wparam = L'0' + (typed.wparam - kWideZero);
+    return Default(typed);
+}
+
 void NumberEdit::OnPaste(const fw::Message& message) {
     const std::wstring before = fw::WindowText(Handle());
     DWORD first = 0;

@@ -117,7 +117,16 @@ bool COptMainPage::OnValidate(const fw::Message&) {
     if (!Checked(IDC_SAVE_HISTORIES) || HistoryLengthOf(fw::WindowText(Control(IDC_HISTORY_LENGTH)))) return false;
     ShowOptionsMessage(Handle(), IDS_NO_HISTORY_LENGTH, MB_ICONEXCLAMATION);
     FocusOn(Control(IDC_HISTORY_LENGTH));
+    // A tree that was clicked takes the focus to itself after it has asked.
+    ::PostMessageW(::GetAncestor(Handle(), GA_ROOT), WM_NEXTDLGCTL,
+                   reinterpret_cast<WPARAM>(Control(IDC_HISTORY_LENGTH)), TRUE);
     return true;
+}
+
+fw::Reply COptMainPage::OnShow(bool visible) {
+    // A window hears only of its own hiding, not of its parent's.
+    sample_.Run(visible);
+    return fw::kPassOn;
 }
 
 fw::Reply COptMainPage::OnDrawItem(const fw::Message& message) {
@@ -171,6 +180,8 @@ void COptMainPage::OnClearHistories() {
 
 LRESULT COptMainPage::OnHistoryLengthStep(NMUPDOWN& step) {
     step.iDelta = HistoryLengthStep(step.iPos, step.iDelta);
+    // The arrows give the focus to their number by themselves only when that is the system's own control.
+    if (::GetFocus() != Control(IDC_HISTORY_LENGTH)) FocusOn(Control(IDC_HISTORY_LENGTH));
     return 0;
 }
 
@@ -226,7 +237,8 @@ void COptMainPage::Enable(int id, bool enabled) {
 }
 
 void COptMainPage::FocusOn(HWND control) {
-    ::SendMessageW(Handle(), WM_NEXTDLGCTL, reinterpret_cast<WPARAM>(control), TRUE);
+    // The dialog around the page knows which button is the default one.
+    ::SendMessageW(::GetAncestor(Handle(), GA_ROOT), WM_NEXTDLGCTL, reinterpret_cast<WPARAM>(control), TRUE);
 }
 
 void COptMainPage::ShowBox(const OptionBox& box) {

@@ -30,6 +30,7 @@ public:
         return fw::MessageMap{
             fw::On<WM_INITDIALOG>(&COptMainPage::OnInitDialog),
             fw::On<kValidatePage>(&COptMainPage::OnValidate),
+            fw::On<WM_SHOWWINDOW>(&COptMainPage::OnShow),
             fw::On<WM_DRAWITEM>(&COptMainPage::OnDrawItem),
             fw::On<WM_CTLCOLORDLG>(&COptMainPage::OnColourOfGround),
             fw::On<WM_CTLCOLORBTN>(&COptMainPage::OnColourOfGround),
@@ -62,6 +63,7 @@ public:
 private:
     bool OnInitDialog(HWND firstControl);
     bool OnValidate(const fw::Message& message);
+    fw::Reply OnShow(bool visible);
     fw::Reply OnDrawItem(const fw::Message& message);
     HBRUSH OnColourOfGround(const fw::Message& message);
     fw::Reply OnColourOfStatic(const fw::Message& message);

@@ -28,10 +28,16 @@ LRESULT CSampleTimeBar::OnCreate(const fw::Message& message) {
     if (result == -1) return result;
     OpenTheme();
     text_ = reinterpret_cast<const CREATESTRUCTW*>(message.lparam)->lpszName;
-    Update();
     timerId_ = static_cast<UINT_PTR>(::GetDlgCtrlID(Handle()));
-    timer_.Start(Handle(), timerId_, kPeriod);
+    Run(::IsWindowVisible(::GetParent(Handle())) != FALSE);
     return result;
+}
+
+void CSampleTimeBar::Run(bool seen) {
+    if (!Handle()) return;
+    Update();
+    if (!seen) return timer_.Stop();
+    timer_.Start(Handle(), timerId_, kPeriod);
 }
 
 fw::Reply CSampleTimeBar::OnTimer(UINT_PTR id) {

@@ -39,6 +39,9 @@ public:
     // ClockFormatOf the setting; shown at once.
     void SetFormat(unsigned formatId);
 
+    // Keeps up with the clock only while it is to be seen.
+    void Run(bool seen);
+
     [[nodiscard]] const std::wstring& Text() const { return text_; }
     [[nodiscard]] bool Running() const { return timer_.Running(); }
 

@@ -235,6 +235,7 @@ void CImportDialog::OnOk() {
         item.Set(found->path, found->arguments, found->workingFolder, found->name, found->iconFile, found->iconIndex);
         items_.push_back(std::move(item));
     }
+    confirmed_ = true;
     ::EndDialog(Handle(), IDOK);
 }
 

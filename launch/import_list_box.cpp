@@ -57,7 +57,8 @@ void CImportListBox::Append(std::vector<ImportableItem> items) {
         }
     }
     ::SendMessageW(Handle(), WM_SETREDRAW, TRUE, 0);
-    ::InvalidateRect(Handle(), nullptr, TRUE);
+    // Each row paints its own ground.
+    ::InvalidateRect(Handle(), nullptr, FALSE);
 }
 
 int CImportListBox::SelectedCount() const {

@@ -87,7 +87,9 @@ std::vector<std::wstring> ReadLinesFrom(const settings::ProfileStore& store, int
     std::vector<std::wstring> lines;
     for (int index = listed; index < MaxLaunchItems; ++index) {
         StoredLine line = ReadStoredLine(store, index);
-        if (!line.text.empty() && !line.builtIn) lines.push_back(std::move(line.text));
+        // What stands behind a number that is missing was never in the list.
+        if (line.text.empty()) break;
+        if (!line.builtIn) lines.push_back(std::move(line.text));
     }
     return lines;
 }

@@ -74,6 +74,16 @@ void CLaunchMenuListBox::Remove(int row) {
     ::SendMessageW(Handle(), LB_DELETESTRING, static_cast<WPARAM>(row), 0);
 }
 
+void CLaunchMenuListBox::Move(int from, int to, CLaunchItem* item) {
+    const LRESULT top = ::SendMessageW(Handle(), LB_GETTOPINDEX, 0, 0);
+    ::SendMessageW(Handle(), WM_SETREDRAW, FALSE, 0);
+    Remove(from);
+    Insert(to, item);
+    ::SendMessageW(Handle(), LB_SETTOPINDEX, static_cast<WPARAM>(top), 0);
+    ::SendMessageW(Handle(), WM_SETREDRAW, TRUE, 0);
+    ::InvalidateRect(Handle(), nullptr, FALSE);
+}
+
 LRESULT CLaunchMenuListBox::OnDrawItem(const DRAWITEMSTRUCT& item) {
     // An empty list is drawn as one row that is none, for the focus.
     if (static_cast<int>(item.itemID) < 0) return TRUE;

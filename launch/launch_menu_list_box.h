@@ -37,6 +37,9 @@ public:
     // False when there is no memory for another row.
     bool Insert(int row, CLaunchItem* item);
     void Remove(int row);
+    // Takes the row away and puts the item into another place, or into the same with its text brought up to date. What
+    // is in view stays.
+    void Move(int from, int to, CLaunchItem* item);
 
     // For the mix-in.
     [[nodiscard]] const wchar_t* ThemeClasses() const { return controls::kListTheme; }

@@ -73,6 +73,8 @@ void COptExtraPage::FillList() {
 }
 
 bool COptExtraPage::Save() {
+    // Nothing was listed that could take the place of what is stored.
+    if (!list_.Handle()) return true;
     std::vector<const CLaunchItem*> items;
     for (int row = 0; row < list_.Count(); ++row) items.push_back(list_.ItemAt(row));
     return SaveList(store_, items, unlisted_);
@@ -87,7 +89,10 @@ fw::Reply COptExtraPage::OnDrawItem(const fw::Message& message) {
 }
 
 HBRUSH COptExtraPage::OnColour(const fw::Message& message) {
-    ::SetBkMode(reinterpret_cast<HDC>(message.wparam), TRANSPARENT);
+    const auto dc = reinterpret_cast<HDC>(message.wparam);
+    ::SetTextColor(dc, ::GetSysColor(COLOR_WINDOWTEXT));
+    ::SetBkColor(dc, ::GetSysColor(COLOR_WINDOW));
+    ::SetBkMode(dc, TRANSPARENT);
     return ::GetSysColorBrush(COLOR_WINDOW);
 }
 
@@ -131,17 +136,23 @@ void COptExtraPage::MoveSelectedTo(int row) {
     const int from = list_.Selected();
     CLaunchItem* const item = list_.ItemAt(from);
     if (!item || row < 0 || row >= list_.Count()) return;
-    list_.Remove(from);
-    list_.Insert(row, item);
+    list_.Move(from, row, item);
     Select(row);
     FocusList();
+}
+
+HWND COptExtraPage::DialogOwner() const {
+    // None is active while the program is in the background, and a dialog without an owner would leave this one open
+    // to use.
+    const HWND active = ::GetActiveWindow();
+    return active ? active : ::GetAncestor(Handle(), GA_ROOT);
 }
 
 void COptExtraPage::OnAdd() {
     const bool inFront = ::GetKeyState(VK_SHIFT) < 0;
     if (!LaunchPageButtonsFor(list_.Count(), list_.Selected()).add) return;
     CAddMenuDialog editor{smallIcon_, help_};
-    static_cast<void>(editor.ShowModal(::GetActiveWindow()));
+    static_cast<void>(editor.ShowModal(DialogOwner()));
     if (!editor.Confirmed()) return;
     const int row = InsertRow(list_.Count(), list_.Selected(), inFront);
     InsertAt(row, editor.Item());
@@ -155,12 +166,11 @@ void COptExtraPage::OnEdit() {
     CLaunchItem* const item = list_.ItemAt(row);
     if (!item) return;
     CAddMenuDialog editor{smallIcon_, help_, *item};
-    static_cast<void>(editor.ShowModal(::GetActiveWindow()));
+    static_cast<void>(editor.ShowModal(DialogOwner()));
     if (!editor.Confirmed()) return;
     item->Assign(editor.Item());
     // The row's text is the item's name.
-    list_.Remove(row);
-    list_.Insert(row, item);
+    list_.Move(row, row, item);
     Select(row);
     FocusList();
 }
@@ -189,10 +199,9 @@ void COptExtraPage::OnDelete() {
 void COptExtraPage::OnImport() {
     if (!LaunchPageButtonsFor(list_.Count(), list_.Selected()).import) return;
     CImportDialog import{list_.Count(), smallIcon_, help_};
-    static_cast<void>(import.ShowModal(::GetActiveWindow()));
-    std::vector<CLaunchItem> items = import.TakeItems();
-    if (items.empty()) return;
-    for (CLaunchItem& item : items) Append(std::move(item));
+    static_cast<void>(import.ShowModal(DialogOwner()));
+    if (!import.Confirmed()) return;
+    for (CLaunchItem& item : import.TakeItems()) Append(std::move(item));
     SelectLast();
 }
 

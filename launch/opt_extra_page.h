@@ -66,6 +66,7 @@ private:
     void OnDelete();
     void OnImport();
 
+    [[nodiscard]] HWND DialogOwner() const;
     void SizeList();
     void FillList();
     // At the end of the list when there is still room. The page owns the item, whatever becomes of its row.

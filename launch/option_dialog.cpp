@@ -114,6 +114,7 @@ void COptionDialog::FillTree() {
 }
 
 fw::Reply COptionDialog::OnDestroy() {
+    closing_ = true;
     // The tree never owns its images.
     TreeView_SetImageList(Control(IDC_OPTION_TREE), nullptr, TVSIL_NORMAL);
     return fw::kPassOn;
@@ -152,17 +153,20 @@ bool COptionDialog::Acceptable(OptionPage page) const {
 }
 
 LRESULT COptionDialog::OnPageChanging(NMTREEVIEWW& change) {
-    if (!change.itemOld.hItem) return FALSE;
+    if (closing_ || !change.itemOld.hItem) return FALSE;
     return !Acceptable(static_cast<OptionPage>(change.itemOld.lParam));
 }
 
 void COptionDialog::OnPageChanged(NMTREEVIEWW& change) {
     // The tree is emptied when it is destroyed.
-    if (!change.itemNew.hItem) return;
+    if (closing_ || !change.itemNew.hItem) return;
     const auto shown = static_cast<OptionPage>(change.itemNew.lParam);
     ::ShowWindow(PageWindow(shown), SW_SHOWNA);
     for (const OptionPage page : kOptionPages)
         if (page != shown) ::ShowWindow(PageWindow(page), SW_HIDE);
+    // When it was not the tree that was used, the focus may be on the page that has gone.
+    const HWND focus = ::GetFocus();
+    if (focus && ::IsChild(Handle(), focus) && !::IsWindowVisible(focus)) ::SetFocus(Control(IDC_OPTION_TREE));
     const std::wstring name = fw::LoadText(OptionPageName(shown));
     ::SetWindowTextW(Handle(), fw::FormatResource(IDS_OPTIONS_CAPTION, std::wstring_view{name}).c_str());
 }
@@ -193,7 +197,9 @@ bool COptionDialog::OnEraseBackground(HDC dc) {
 }
 
 HBRUSH COptionDialog::OnStaticColour(const fw::Message& message) {
-    ::SetBkMode(reinterpret_cast<HDC>(message.wparam), TRANSPARENT);
+    const auto dc = reinterpret_cast<HDC>(message.wparam);
+    ::SetTextColor(dc, ::GetSysColor(COLOR_WINDOWTEXT));
+    ::SetBkMode(dc, TRANSPARENT);
     return ::GetSysColorBrush(COLOR_WINDOW);
 }
 
@@ -215,16 +221,16 @@ fw::Reply COptionDialog::OnSystemChange(const fw::Message& message) {
 
 void COptionDialog::OnOk() {
     if (!Acceptable(CurrentPage())) return;
-    if (!Save()) fw::ShowMessage(Handle(), fw::LoadText(IDS_NOT_SAVED), fw::WindowText(Handle()), MB_ICONEXCLAMATION);
+    Save();
     confirmed_ = true;
     ::EndDialog(Handle(), IDOK);
 }
 
-bool COptionDialog::Save() {
-    const bool mainSaved = mainPage_.Save();
-    const bool commandsSaved = commandPage_.Save();
-    const bool itemsSaved = launchPage_.Save();
-    return mainSaved && commandsSaved && itemsSaved;
+void COptionDialog::Save() {
+    // That a setting could not be written is not told; what is stored goes on to serve.
+    static_cast<void>(mainPage_.Save());
+    static_cast<void>(commandPage_.Save());
+    static_cast<void>(launchPage_.Save());
 }
 
 void COptionDialog::OnCancel() {

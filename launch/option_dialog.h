@@ -82,7 +82,7 @@ private:
     [[nodiscard]] OptionPage CurrentPage() const;
     // True when the page's input is acceptable.
     [[nodiscard]] bool Acceptable(OptionPage page) const;
-    [[nodiscard]] bool Save();
+    void Save();
 
     OptionPage startPage_;
     about::HelpOpener& help_;
@@ -98,6 +98,7 @@ private:
     fw::UniqueBrush stripBrush_;
     int stripEnd_ = 0; // the right edge of the tree
     bool confirmed_ = false;
+    bool closing_ = false;
 };
 
 } // namespace korvane::launch

@@ -6,27 +6,12 @@
 #include "framework/centring.h"
 #include "framework/icons.h"
 #include "framework/string_table.h"
+#include "framework/wait_cursor.h"
 #include "framework/window_text.h"
 #include "launch/logic/path_parts.h"
 #include "search/path_pickers.h"
 
 namespace korvane::launch {
-namespace {
-
-// Shows the hourglass while it lives.
-class WaitCursor {
-public:
-    WaitCursor() : previous_{::SetCursor(::LoadCursorW(nullptr, reinterpret_cast<LPCWSTR>(IDC_WAIT)))} {}
-    WaitCursor(const WaitCursor&) = delete;
-    WaitCursor& operator=(const WaitCursor&) = delete;
-    ~WaitCursor() { ::SetCursor(previous_); }
-
-private:
-    HCURSOR previous_;
-};
-
-} // namespace
-
 CSelectIconDialog::CSelectIconDialog(std::wstring iconFile, int iconIndex, HICON smallIcon, about::HelpOpener& help)
     : iconFile_{std::move(iconFile)}, iconIndex_{iconIndex}, smallIcon_{smallIcon}, help_{help} {}
 
@@ -45,6 +30,7 @@ bool CSelectIconDialog::OnInitDialog(HWND) {
 }
 
 fw::Reply CSelectIconDialog::OnDestroy() {
+    closing_ = true;
     browse_.Detach();
     return fw::kPassOn;
 }
@@ -75,7 +61,7 @@ void CSelectIconDialog::ShowIcons() {
     std::wstring file = TypedFile();
     if (file == iconFile_) return;
 
-    const WaitCursor wait;
+    const fw::WaitCursor wait;
     iconFile_ = std::move(file);
     list_.Clear();
     icons_ = fw::ExtractSmallIcons(iconFile_);
@@ -98,8 +84,8 @@ void CSelectIconDialog::OnBrowse() {
 }
 
 void CSelectIconDialog::OnFileLeft() {
-    // Whoever goes to cancel does not want to wait for a file that is slow to answer.
-    if (::GetFocus() != Control(IDCANCEL)) ShowIcons();
+    // Whoever goes to cancel, or has closed the dialog, does not want to wait for a file that is slow to answer.
+    if (!closing_ && ::GetFocus() != Control(IDCANCEL)) ShowIcons();
 }
 
 void CSelectIconDialog::OnIconSelected() {
@@ -120,11 +106,12 @@ void CSelectIconDialog::OnOk() {
 
 void CSelectIconDialog::Confirm() {
     iconIndex_ = list_.Selected();
-    confirmed_ = true;
+    confirmed_ = closing_ = true;
     ::EndDialog(Handle(), IDOK);
 }
 
 void CSelectIconDialog::OnCancel() {
+    closing_ = true;
     ::EndDialog(Handle(), IDCANCEL);
 }
 

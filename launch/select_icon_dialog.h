@@ -75,6 +75,7 @@ private:
     HICON smallIcon_;
     about::HelpOpener& help_;
     bool confirmed_ = false;
+    bool closing_ = false; // the field that still has the focus is left then
     // The list borrows them.
     std::vector<fw::UniqueIcon> icons_;
     CSelectIconListBox list_;

@@ -25,7 +25,8 @@ void Fill(ImportableItem& item, IShellLinkW& link) {
     link.GetPath(path.data(), kLength, nullptr, 0);
     item.path = path.data();
     if (SUCCEEDED(link.GetArguments(arguments.data(), kLength))) item.arguments = arguments.data();
-    if (SUCCEEDED(link.GetWorkingDirectory(folder.data(), kLength))) item.workingFolder = folder.data();
+    if (SUCCEEDED(link.GetWorkingDirectory(folder.data(), kLength)))
+        item.workingFolder = WithVariablesReplaced(folder.data());
     int index = 0;
     if (SUCCEEDED(link.GetIconLocation(iconFile.data(), kLength, &index))) {
         item.iconFile = iconFile.data();

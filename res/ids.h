@@ -326,7 +326,6 @@
 #define IDS_OPTIONS_MAIN            249
 #define IDS_OPTIONS_COMMANDS        250
 #define IDS_OPTIONS_LAUNCH          251
-#define IDS_NOT_SAVED               252
 #define IDS_VERB_ADD                253
 #define IDS_VERB_EDIT               254
 

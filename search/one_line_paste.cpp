@@ -46,6 +46,7 @@ bool PasteOnOneLine(HWND edit) {
     if (room == 0) return true;
     const std::wstring whole = OnOneLine(*text);
     const std::wstring line{WithinRoom(whole, room)};
+    if (line.empty() && !whole.empty()) return true;
     ::SendMessageW(edit, EM_REPLACESEL, TRUE, reinterpret_cast<LPARAM>(line.c_str()));
     return true;
 }

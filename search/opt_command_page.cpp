@@ -232,7 +232,7 @@ fw::Reply COptCommandPage::OnColoursChanged(const fw::Message& message) {
 }
 
 int COptCommandPage::Ask(const std::wstring& text, UINT flags) {
-    return fw::ShowMessage(Dialog(), text, fw::WindowText(Dialog()), flags);
+    return fw::ShowProductMessage(Dialog(), text, flags);
 }
 
 bool COptCommandPage::OnValidate(const fw::Message&) {
@@ -250,6 +250,10 @@ void COptCommandPage::TellLimit(const SelectionLimit& limit) {
 void COptCommandPage::OnTellLimit(const fw::Message&) {
     limitToBeTold_ = false;
     if (const auto limit = lists_.LimitReached()) TellLimit(*limit);
+}
+
+void COptCommandPage::OnUpdate(const fw::Message&) {
+    Update();
 }
 
 void COptCommandPage::OnShowKind(UINT radioButton) {
@@ -345,7 +349,15 @@ void COptCommandPage::OnRowChanged(const NMLISTVIEW& change) {
     const bool wasSelected = (change.uOldState & LVIS_SELECTED) != 0;
     if (selected) lists_.Select(row);
     if (wasSelected && !selected && lists_.Selected() == row) lists_.Select({});
-    Update();
+    // A list that moves its selection first takes it from one row and then gives it to another. In between nothing is
+    // greyed that would come back at once.
+    const bool onlyLosesSelection =
+        wasSelected && !selected && !Becomes(change, kChecked) && !Becomes(change, kUnchecked);
+    if (onlyLosesSelection) {
+        ::PostMessageW(Handle(), kUpdate, 0, 0);
+    } else {
+        Update();
+    }
 }
 
 void COptCommandPage::OnUserKey(const NMLVKEYDOWN& key) {
@@ -372,7 +384,7 @@ bool COptCommandPage::Save() {
     const bool selectionWritten = SaveStandardSelection(lists_.Of(SearchCommandKind::kStandard), settings);
     const unsigned long error =
         SaveUserCommands(lists_.Of(SearchCommandKind::kUser), user_.file, user_.store, settings);
-    if (error != 0) fw::ShowSystemError(Dialog(), error, fw::WindowText(Dialog()).c_str());
+    if (error != 0) fw::ShowProductSystemError(Dialog(), error);
     return priorityWritten && selectionWritten;
 }
 

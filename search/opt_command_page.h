@@ -32,6 +32,7 @@ public:
 
     // Posted to itself. A list that asks whether a row may change must not be kept waiting for a message box.
     static constexpr UINT kTellLimit = WM_APP + 1;
+    static constexpr UINT kUpdate = WM_APP + 2;
 
     static constexpr auto Messages() {
         return fw::MessageMap{
@@ -42,6 +43,7 @@ public:
             fw::On<WM_SYSCOLORCHANGE>(&COptCommandPage::OnColoursChanged),
             fw::On<controls::kValidatePage>(&COptCommandPage::OnValidate),
             fw::On<kTellLimit>(&COptCommandPage::OnTellLimit),
+            fw::On<kUpdate>(&COptCommandPage::OnUpdate),
             fw::OnCommand<IDC_STANDARD_COMMANDS, IDC_USER_COMMANDS>(&COptCommandPage::OnShowKind),
             fw::OnCommand<IDC_MOVE_UP>(&COptCommandPage::OnMoveUp),
             fw::OnCommand<IDC_MOVE_DOWN>(&COptCommandPage::OnMoveDown),
@@ -77,6 +79,7 @@ private:
     fw::Reply OnColoursChanged(const fw::Message& message);
     bool OnValidate(const fw::Message& message);
     void OnTellLimit(const fw::Message& message);
+    void OnUpdate(const fw::Message& message);
     void OnShowKind(UINT radioButton);
     void OnMoveUp();
     void OnMoveDown();

@@ -14,6 +14,7 @@
 #include "framework/program_path.h"
 #include "framework/window_text.h"
 #include "tests/support/clipboard.h"
+#include "tests/support/dialog_host.h"
 #include "tests/support/fake_clock.h"
 #include "tests/support/fake_store.h"
 #include "tests/support/gdi_objects.h"
@@ -52,7 +53,6 @@ class OptMainPage : public test::WindowTest {
 protected:
     void SetUp() override {
         WindowTest::SetUp();
-        ::SetWindowTextW(Host(), L"オプション - 基本設定");
         g_systemColour = 0xC4102030;
     }
 
@@ -60,7 +60,7 @@ protected:
     void Open(settings::ProfileStore& from) {
         page = std::make_unique<COptMainPage>(from, histories, settings::AutoRun{key.Root(), key.Path()}, clock,
                                               [] { return g_systemColour; });
-        ASSERT_TRUE(page->Create(Host()));
+        ASSERT_TRUE(page->Create(options.Handle()));
     }
     [[nodiscard]] HWND Control(int id) const { return ::GetDlgItem(page->Handle(), id); }
     [[nodiscard]] std::wstring Text(int id) const { return fw::WindowText(Control(id)); }
@@ -107,6 +107,8 @@ protected:
     test::FakeStore store;
     test::FakeClock clock;
     FakeHistories histories;
+    // Before the page, which is its child.
+    test::DialogHost options{L"オプション - 基本設定"};
     std::unique_ptr<COptMainPage> page;
 };
 
@@ -369,7 +371,7 @@ TEST_F(OptMainPage, TellsOfEachWriteThatFailed) {
 
 TEST_F(OptMainPage, TellsOfAStartWithWindowsThatCannotBeWritten) {
     page = std::make_unique<COptMainPage>(store, histories, settings::AutoRun{nullptr, L"nowhere"}, clock);
-    ASSERT_TRUE(page->Create(Host()));
+    ASSERT_TRUE(page->Create(options.Handle()));
     EXPECT_FALSE(Checked(1020));
     EXPECT_TRUE(page->Save());
 
@@ -658,12 +660,35 @@ TEST_F(OptMainPage, CorrectsTheHistoryLengthWhenTheFieldIsLeft) {
         const wchar_t* corrected;
     };
     Open();
-    for (const Case& one : {Case{L"00", L"1"}, Case{L"0", L"1"}, Case{L"16", L"15"}, Case{L"99", L"15"},
-                            Case{L"05", L"5"}, Case{L"15", L"15"}, Case{L"1", L"1"}, Case{L"", L""}}) {
+    for (const Case& one :
+         {Case{L"00", L"1"}, Case{L"0", L"1"}, Case{L"16", L"15"}, Case{L"99", L"15"}, Case{L"05", L"5"},
+          Case{L"15", L"15"}, Case{L"1", L"1"}, Case{L"", L""}, Case{L"１２", L"12"}}) {
         SetText(1046, one.typed);
         Notify(1046, EN_KILLFOCUS);
         EXPECT_EQ(Text(1046), one.corrected) << testing::PrintToString(one.typed);
     }
+}
+
+TEST_F(OptMainPage, TakesTheWideDigitsOfAnInputMethod) {
+    Open();
+    SetText(1046, L"");
+
+    for (const wchar_t digit : {L'１', L'０'}) Send(Control(1046), WM_CHAR, digit);
+
+    EXPECT_EQ(Text(1046), L"10");
+}
+
+TEST_F(OptMainPage, GivesTheFocusToTheNumberWhoseArrowsAreUsed) {
+    Open();
+    ::SetFocus(Control(1045));
+    NMUPDOWN step{};
+    step.hdr = {Control(1047), 1047, static_cast<UINT>(UDN_DELTAPOS)};
+    step.iPos = 5;
+    step.iDelta = 1;
+
+    Send(page->Handle(), WM_NOTIFY, 1047, reinterpret_cast<LPARAM>(&step));
+
+    EXPECT_EQ(::GetFocus(), Control(1046));
 }
 
 // Enter in the field presses OK without leaving it.
@@ -772,7 +797,7 @@ TEST_F(OptMainPage, PassesNewSystemColoursOnToTheArrows) {
 TEST_F(OptMainPage, IsPaintedAnewInNewSystemColours) {
     Open();
     ::ShowWindow(page->Handle(), SW_SHOWNOACTIVATE);
-    ::ShowWindow(Host(), SW_SHOWNOACTIVATE);
+    ::ShowWindow(options.Handle(), SW_SHOWNOACTIVATE);
     Pump();
     ::ValidateRect(Control(1067), nullptr);
     ASSERT_FALSE(::GetUpdateRect(Control(1067), nullptr, FALSE));
@@ -785,7 +810,7 @@ TEST_F(OptMainPage, IsPaintedAnewInNewSystemColours) {
 TEST_F(OptMainPage, PaintsTheSwatchAnewForEachChoice) {
     Open();
     ::ShowWindow(page->Handle(), SW_SHOWNOACTIVATE);
-    ::ShowWindow(Host(), SW_SHOWNOACTIVATE);
+    ::ShowWindow(options.Handle(), SW_SHOWNOACTIVATE);
     ::UpdateWindow(Control(1025));
     const auto shown = [&] {
         ::UpdateWindow(Control(1025));

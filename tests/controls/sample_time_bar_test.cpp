@@ -36,6 +36,7 @@ protected:
     void Put() {
         ASSERT_TRUE(sample.Replace(Host(), kId));
         sample.SetFormat(kTime);
+        sample.Run(true);
     }
     // As the dialog hands it back.
     [[nodiscard]] Canvas Painted() const {
@@ -93,6 +94,16 @@ TEST_F(SampleTimeBar, RunsByATimerThatIsNumberedAsTheControl) {
     EXPECT_EQ(sample.Text(), L"09:05");
     Send(sample.Handle(), WM_TIMER, kId);
     EXPECT_EQ(sample.Text(), L"09:06");
+}
+
+TEST_F(SampleTimeBar, RunsOnlyWhileItIsToBeSeen) {
+    ASSERT_TRUE(sample.Replace(Host(), kId));
+    EXPECT_FALSE(sample.Running());
+
+    sample.Run(true);
+    EXPECT_TRUE(sample.Running());
+    sample.Run(false);
+    EXPECT_FALSE(sample.Running());
 }
 
 TEST_F(SampleTimeBar, FollowsTheClockByItself) {

@@ -491,6 +491,13 @@ TEST_F(LaunchItemTest, KeepsUnloadedLinesOnlyWhileThereIsRoom) {
     EXPECT_EQ(items.store.sections[std::wstring{settings::section::kLaunchItems}].size(), 38U);
 }
 
+TEST_F(LaunchItemTest, KeepsNothingFromBehindANumberThatIsMissing) {
+    items.PutWholeUpTo(4);
+    items.PutWhole(6);
+
+    EXPECT_THAT(ReadLinesFrom(items.store, 4), IsEmpty());
+}
+
 TEST_F(LaunchItemTest, CountsNoneOfTheProgramsOwnLinesAsUnlisted) {
     EXPECT_THAT(ReadLinesFrom(items.store, 0), IsEmpty());
 }

@@ -11,6 +11,7 @@
 #include "framework/window_text.h"
 #include "launch/stored_line.h"
 #include "tests/launch/launch_items.h"
+#include "tests/support/canvas.h"
 #include "tests/support/fake_help.h"
 #include "tests/support/gdi_objects.h"
 #include "tests/support/message_box_answer.h"
@@ -388,6 +389,39 @@ TEST_F(OptExtraPage, TellsWhenItCouldNotSave) {
     items.store.writesThatSucceed = 2;
 
     EXPECT_FALSE(page->Save());
+}
+
+TEST_F(OptExtraPage, TakesTheColourOfWindowTextForItsTexts) {
+    Open(3);
+    const test::Canvas canvas{{4, 4}};
+    ::SetTextColor(canvas.Dc(), RGB(255, 0, 255));
+
+    Send(page->Handle(), WM_CTLCOLORSTATIC, reinterpret_cast<WPARAM>(canvas.Dc()),
+         reinterpret_cast<LPARAM>(Control(1048)));
+
+    EXPECT_EQ(::GetTextColor(canvas.Dc()), ::GetSysColor(COLOR_WINDOWTEXT));
+}
+
+TEST_F(OptExtraPage, SavesNothingWhenItListedNothing) {
+    items.PutWholeUpTo(5);
+    items.store.log.clear();
+    COptExtraPage closed{items.store, nullptr, help};
+
+    EXPECT_TRUE(closed.Save());
+
+    EXPECT_EQ(items.store.log, L"");
+}
+
+TEST_F(OptExtraPage, DoesNotScrollWhenItMovesAnItem) {
+    Open(30);
+    SelectRow(20);
+    Send(Control(kList), LB_SETTOPINDEX, 19);
+    const LRESULT top = Send(Control(kList), LB_GETTOPINDEX);
+
+    Command(1031);
+
+    EXPECT_EQ(Selected(), 21);
+    EXPECT_EQ(Send(Control(kList), LB_GETTOPINDEX), top);
 }
 
 TEST_F(OptExtraPage, DisablesAddingAtThirtyEightItems) {

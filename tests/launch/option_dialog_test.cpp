@@ -298,17 +298,45 @@ TEST_F(OptionDialog, SavesNothingWhenItIsCancelled) {
     EXPECT_EQ(store.log, L"");
 }
 
-TEST_F(OptionDialog, SaysWhenNotEverythingCouldBeSaved) {
+TEST_F(OptionDialog, SaysNothingOfSettingsThatCouldNotBeWritten) {
     Open(OptionPage::kLaunch);
     store.writesThatSucceed = 0;
     test::MessageBoxAnswer ok{IDOK};
 
     Command(kOk);
 
-    EXPECT_EQ(ok.Count(), 1);
-    EXPECT_EQ(ok.Text(), L"設定の一部を保存することができませんでした。");
-    EXPECT_EQ(ok.Caption(), L"オプション - ランチ メニューの設定");
+    EXPECT_EQ(ok.Count(), 0);
     EXPECT_TRUE(dialog->Confirmed());
+}
+
+TEST_F(OptionDialog, AsksNoPageWhileItIsDestroyed) {
+    Open();
+    MakeMainPageUnacceptable();
+    test::MessageBoxAnswer ok{IDOK};
+
+    ::DestroyWindow(dialog->Handle());
+
+    EXPECT_EQ(ok.Count(), 0);
+}
+
+TEST_F(OptionDialog, LeavesNoFocusOnAPageThatHasGone) {
+    Open(OptionPage::kLaunch);
+    ::ShowWindow(dialog->Handle(), SW_SHOWNA);
+    ::SetFocus(::GetDlgItem(LaunchPage(), 1057));
+
+    dialog->GoTo(OptionPage::kMain);
+
+    EXPECT_EQ(::GetFocus(), Control(kTree));
+}
+
+TEST_F(OptionDialog, RunsTheSampleClockOnlyOnItsPage) {
+    Open(OptionPage::kLaunch);
+    ::ShowWindow(dialog->Handle(), SW_SHOWNA);
+    const HWND sample = ::GetDlgItem(MainPage(), 1067);
+    EXPECT_FALSE(::KillTimer(sample, 1067));
+
+    SelectItem(0);
+    EXPECT_TRUE(::KillTimer(sample, 1067));
 }
 
 TEST_F(OptionDialog, OpensTheHelpOfThePageOnView) {

@@ -275,6 +275,17 @@ TEST_F(SelectIconDialog, DoesNotWaitForATypedFileWhenItIsCancelled) {
     EXPECT_THAT(Rows(), ElementsAre(kRed));
 }
 
+TEST_F(SelectIconDialog, LooksAtNoTypedFileOnItsWayOut) {
+    Open(Library({kRed}), 0);
+    ::SetFocus(Control(1039));
+    Type(Library({kGreen, kBlue}, L"other.dll"));
+
+    Send(dialog->Handle(), WM_COMMAND, IDCANCEL);
+    Send(dialog->Handle(), WM_COMMAND, MAKEWPARAM(1039, EN_KILLFOCUS), reinterpret_cast<LPARAM>(Control(1039)));
+
+    EXPECT_THAT(Rows(), ElementsAre(kRed));
+}
+
 TEST_F(SelectIconDialog, LeavesTheListAloneWhileTheFileIsTheSame) {
     Open(Library({kRed, kGreen}), 0);
     const LRESULT icon = Send(List(), LB_GETITEMDATA, 0);

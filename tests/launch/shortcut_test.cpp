@@ -54,6 +54,13 @@ TEST_F(ShortcutTest, IsReadWithAllThatItSays) {
     EXPECT_EQ(test::ColourOf(item.icon.Get()), RGB(10, 200, 30));
 }
 
+TEST_F(ShortcutTest, FindsAWorkingFolderThatIsNamedByVariables) {
+    const ImportableItem item = WriteAndRead({.target = Target(), .workingFolder = L"%SystemRoot%\\system32"});
+
+    EXPECT_EQ(item.workingFolder.find(L'%'), std::wstring::npos);
+    EXPECT_TRUE(item.workingFolder.ends_with(L"\\system32"));
+}
+
 TEST_F(ShortcutTest, KeepsTheNumberOfItsIcon) {
     std::array<wchar_t, MAX_PATH> system{};
     ::GetSystemDirectoryW(system.data(), static_cast<UINT>(system.size()));

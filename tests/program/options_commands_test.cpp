@@ -220,7 +220,7 @@ TEST_F(CommandOptions, AskBeforeACommandIsDeleted) {
     const auto box = program.WaitForBox(MessageBoxView{options});
     ASSERT_TRUE(box);
     EXPECT_EQ(box.Text(), L"\"命令1\" コマンドを削除します。よろしいですか？");
-    EXPECT_EQ(box.Caption(), L"オプション - 検索コマンドの設定");
+    EXPECT_EQ(box.Caption(), L"Korvane");
     EXPECT_EQ(box.Icon(), BoxIcon::kQuestion);
     ASSERT_TRUE(box.Press(IDYES));
     EXPECT_TRUE(WaitForCount(options, L"選択コマンド数: 1 (ユーザー定義コマンド数: 2)"));
@@ -244,9 +244,32 @@ TEST_F(CommandOptions, InsistOnOneSelectedCommand) {
     const auto box = program.WaitForBox(MessageBoxView{options});
     ASSERT_TRUE(box);
     EXPECT_EQ(box.Text(), L"使用する検索コマンドをひとつ以上選択する必要があります。");
+    EXPECT_EQ(box.Icon(), BoxIcon::kWarning);
+    EXPECT_EQ(box.Caption(), L"Korvane");
     ASSERT_TRUE(box.Press(IDOK));
     EXPECT_TRUE(::IsWindowVisible(options));
     EXPECT_EQ(Selection(), std::nullopt);
+}
+
+TEST_F(CommandOptions, AreNotLeftWithoutASelectedCommand) {
+    const Program program;
+    const HWND options = Open(program, kCommandOptions);
+    ASSERT_NE(options, nullptr);
+    Press('O');
+    ASSERT_TRUE(WaitForCount(options, L"選択コマンド数: 0 (標準コマンド数: 2)"));
+
+    PressKeys({VK_SHIFT, VK_TAB});
+    ASSERT_TRUE(WaitUntil([&] {
+        if (FocusOf(options) != ::GetDlgItem(options, kOptionsTree)) PressKeys({VK_SHIFT, VK_TAB});
+        return FocusOf(options) == ::GetDlgItem(options, kOptionsTree);
+    }));
+    PressKeys({VK_DOWN});
+
+    const auto box = program.WaitForBox(MessageBoxView{options});
+    ASSERT_TRUE(box);
+    EXPECT_EQ(box.Text(), L"使用する検索コマンドをひとつ以上選択する必要があります。");
+    ASSERT_TRUE(box.Press(IDOK));
+    EXPECT_EQ(TextOf(options), L"オプション - 検索コマンドの設定");
 }
 
 TEST_F(CommandOptions, StopAtFiftySelectedCommands) {

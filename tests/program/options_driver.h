@@ -68,6 +68,16 @@ protected:
         Command(bar, command);
         return WaitForDialogWith(program, kOptionsTree);
     }
+    // The same by the bar's button. A busy display server can swallow a click; a user would click once more, too.
+    HWND OpenByButton(const Program& program) {
+        bar = program.WaitForBar();
+        if (!bar) return nullptr;
+        for (int attempt = 0; attempt < 5 && WindowsOf(program.Id(), L"#32770").empty(); ++attempt) {
+            Click(Control(bar, kOptions));
+            WaitUntil([&] { return !WindowsOf(program.Id(), L"#32770").empty(); }, std::chrono::seconds{4});
+        }
+        return WaitForDialogWith(program, kOptionsTree);
+    }
     // The page on view.
     static HWND PageOf(HWND options) {
         for (HWND child = ::GetWindow(options, GW_CHILD); child; child = ::GetWindow(child, GW_HWNDNEXT))

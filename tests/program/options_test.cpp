@@ -63,12 +63,9 @@ protected:
 
 TEST_F(Options, AreOpenedByTheirButton) {
     const Program program;
-    bar = program.WaitForBar();
-    ASSERT_TRUE(bar && ClickIntoFocus(Control(bar, kSearchBox)));
 
-    Click(Control(bar, kOptions));
+    const HWND options = OpenByButton(program);
 
-    const HWND options = WaitForDialogWith(program, kOptionsTree);
     ASSERT_NE(options, nullptr);
     EXPECT_EQ(TextOf(options), L"オプション - 基本設定");
     EXPECT_FALSE(::IsWindowEnabled(bar));
@@ -302,6 +299,55 @@ TEST_F(Options, ClearBothHistoriesAtOnce) {
     ASSERT_TRUE(CloseBar(program));
     EXPECT_EQ(ReadText(kRecentSearches, L"ListItem01"), std::nullopt);
     EXPECT_EQ(ReadText(kRecentCommands, L"ListItem01"), std::nullopt);
+}
+
+TEST_F(Options, TakeEnterOnAPictureForItsOwnPress) {
+    WriteSetting(kRecentSearches, L"ListItem01", L"前の検索");
+    const Program program;
+    const HWND options = Open(program, kMainOptions);
+    ASSERT_NE(options, nullptr);
+    Press('N');
+    ASSERT_TRUE(WaitForFocus(On(options, kLength)));
+    ASSERT_TRUE(WaitUntil([&] {
+        if (FocusOf(options) != On(options, kClearHistories)) PressKeys({VK_TAB});
+        return FocusOf(options) == On(options, kClearHistories);
+    }));
+
+    PressKeys({VK_RETURN});
+
+    const auto box = program.WaitForBox(MessageBoxView{options});
+    ASSERT_TRUE(box);
+    EXPECT_EQ(box.Icon(), BoxIcon::kQuestion);
+    ASSERT_TRUE(box.Press(IDNO));
+    EXPECT_TRUE(::IsWindowVisible(options));
+    EXPECT_EQ(ReadNumber(kSettings, L"DefaultBarColor"), std::nullopt);
+}
+
+TEST_F(Options, AreNotTurnedByAClickWhileTheNumberIsMissing) {
+    const Program program;
+    const HWND options = Open(program, kMainOptions);
+    ASSERT_NE(options, nullptr);
+    Press('N');
+    ASSERT_TRUE(WaitForFocus(On(options, kLength)));
+    PressKeys({VK_DELETE});
+    ASSERT_TRUE(WaitUntil([&] { return TextOn(options, kLength).empty(); }));
+
+    // The third row of the tree.
+    RECT tree{};
+    ::GetWindowRect(::GetDlgItem(options, kOptionsTree), &tree);
+    ::SetCursorPos(tree.left + 40, tree.top + 62);
+    for (const DWORD flags : {MOUSEEVENTF_LEFTDOWN, MOUSEEVENTF_LEFTUP}) {
+        INPUT input{};
+        input.type = INPUT_MOUSE;
+        input.mi.dwFlags = flags;
+        ::SendInput(1, &input, sizeof input);
+    }
+
+    const auto box = program.WaitForBox(MessageBoxView{options});
+    ASSERT_TRUE(box);
+    ASSERT_TRUE(box.Press(IDOK));
+    EXPECT_TRUE(WaitForFocus(On(options, kLength)));
+    EXPECT_EQ(TextOf(options), L"オプション - 基本設定");
 }
 
 TEST_F(Options, HaveNoHistoryToClearWhenThereIsNone) {

@@ -109,6 +109,16 @@ TEST_F(EditCtrlEx, PastesNoHalfOfAPairAtTheLimit) {
     EXPECT_EQ(Text(), L"a");
 }
 
+TEST_F(EditCtrlEx, KeepsWhatIsSelectedWhenNothingOfThePasteFits) {
+    SetText(L"abc");
+    Limit(3);
+    Send(box.Handle(), EM_SETSEL, 2, 3);
+
+    Paste(L"\U0001F600");
+
+    EXPECT_EQ(Text(), L"abc");
+}
+
 TEST_F(EditCtrlEx, KeepsATextThatIsLongerThanTheLimitWhenNothingMoreFits) {
     Limit(2);
     SetText(L"abcdef");

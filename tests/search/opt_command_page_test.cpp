@@ -21,6 +21,7 @@
 #include "tests/support/message_box_answer.h"
 #include "tests/support/message_count.h"
 #include "tests/support/modal_dialog_answer.h"
+#include "tests/support/pump.h"
 #include "tests/support/temp_folder.h"
 #include "tests/support/window_test.h"
 
@@ -298,6 +299,7 @@ TEST_F(OptCommandPage, TellsAllOfTheSelectedCommand) {
     EXPECT_EQ(Text(kDetails), L"コマンド 名: s2\r\nコマンド 文字列: line 2\r\nコマンド の概要: about 2");
 
     SetState(kStandardList, 1, 0, LVIS_SELECTED);
+    test::PumpMessages();
     EXPECT_EQ(Text(kDetails), L"");
 }
 
@@ -398,7 +400,7 @@ TEST_F(OptCommandPage, RefusesThe51stCheckWithOneMessage) {
     Pump();
 
     EXPECT_EQ(answer.Count(), 1);
-    EXPECT_EQ(answer.Caption(), kTitle);
+    EXPECT_EQ(answer.Caption(), L"Korvane");
     EXPECT_EQ(answer.Text(),
               L"選択可能な最大コマンド数は [標準コマンド] と [ユーザー定義コマンド] をあわせて 50 個です。\n\n"
               L"※ [ユーザー定義コマンド] で現在 12 個のコマンドが選択されています。");
@@ -601,7 +603,7 @@ TEST_F(OptCommandPage, AsksBeforeItDeletes) {
 
         Press(kDelete);
 
-        EXPECT_EQ(answer.Caption(), kTitle);
+        EXPECT_EQ(answer.Caption(), L"Korvane");
         EXPECT_EQ(answer.Text(), L"\"u1\" コマンドを削除します。よろしいですか？");
         EXPECT_EQ(RowCount(kUserList), 2) << button;
     }
@@ -662,7 +664,7 @@ TEST_F(OptCommandPage, IsRefusedWithNothingChecked) {
     EXPECT_NE(Send(page->Handle(), WM_APP + 10), 0);
 
     EXPECT_EQ(answer.Count(), 1);
-    EXPECT_EQ(answer.Caption(), kTitle);
+    EXPECT_EQ(answer.Caption(), L"Korvane");
     EXPECT_EQ(answer.Text(), L"使用する検索コマンドをひとつ以上選択する必要があります。");
 }
 
@@ -730,7 +732,7 @@ TEST_F(OptCommandPage, TellsWhyTheUsersCommandsCouldNotBeWrittenAndSavesTheRest)
     EXPECT_TRUE(page->Save());
 
     EXPECT_EQ(answer.Count(), 1);
-    EXPECT_EQ(answer.Caption(), kTitle);
+    EXPECT_EQ(answer.Caption(), L"Korvane");
     EXPECT_EQ(answer.Text(), fw::SystemErrorText(ERROR_ACCESS_DENIED));
     EXPECT_EQ(settings.log, L"Settings.PriorityUserCommand=1\n"
                             L"Settings.SearchCommandOrder=1,2\n"

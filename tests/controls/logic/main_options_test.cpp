@@ -98,6 +98,8 @@ TEST(MainOptions, ShowsNothingForANegativeHistoryLength) {
 TEST(MainOptions, ReadsAHistoryLengthWithinItsRange) {
     EXPECT_EQ(HistoryLengthOf(L"1"), 1);
     EXPECT_EQ(HistoryLengthOf(L"05"), 5);
+    EXPECT_EQ(HistoryLengthOf(L"１０"), 10);
+    EXPECT_EQ(HistoryLengthOf(L"９９"), 15);
     EXPECT_EQ(HistoryLengthOf(L"15"), 15);
     EXPECT_EQ(HistoryLengthOf(L"0"), 1);
     EXPECT_EQ(HistoryLengthOf(L"00"), 1);
