@@ -76,6 +76,7 @@ bool COptExtraPage::Save() {
     // Nothing was listed that could take the place of what is stored.
     if (!list_.Handle()) return true;
     std::vector<const CLaunchItem*> items;
+    items.reserve(static_cast<std::size_t>(list_.Count()));
     for (int row = 0; row < list_.Count(); ++row) items.push_back(list_.ItemAt(row));
     return SaveList(store_, items, unlisted_);
 }

@@ -353,19 +353,21 @@ TEST_F(SelectIconDialog, OpensFiveThousandIconsQuickly) {
 TEST_F(SelectIconDialog, ReleasesItsIconsWhenTheFileChangesAndWhenItCloses) {
     const std::wstring file = Library(std::vector<COLORREF>(50, kGreen));
     const std::wstring none = folder.File(L"gone.dll");
-    Open(file);
-    dialog.reset();
-    const int before = test::GdiObjectCount();
-
-    for (int i = 0; i < 5; ++i) {
+    const auto once = [&] {
         Open(file);
         const auto icon = reinterpret_cast<HICON>(Send(List(), LB_GETITEMDATA, 0));
         dialog->UseFile(none);
         ICONINFO info{};
         EXPECT_FALSE(::GetIconInfo(icon, &info));
         dialog->UseFile(file);
-    }
-    dialog.reset();
+        dialog.reset();
+    };
+    // What Windows keeps from the first times.
+    once();
+    once();
+    const int before = test::GdiObjectCount();
+
+    for (int i = 0; i < 5; ++i) once();
 
     EXPECT_LE(test::GdiObjectCount(), before);
 }

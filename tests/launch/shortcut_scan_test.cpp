@@ -8,6 +8,7 @@
 
 #include "base/format_text.h"
 #include "tests/support/fake_shortcut_reader.h"
+#include "tests/support/folder_link.h"
 #include "tests/support/gdi_objects.h"
 #include "tests/support/icon_file.h"
 #include "tests/support/shortcut_file.h"
@@ -160,6 +161,17 @@ TEST_F(ShortcutScanTest, EndsInVeryDeepFolders) {
     Put(L"a.lnk");
 
     EXPECT_THAT(Scanned(), ElementsAre(L"a"));
+}
+
+TEST_F(ShortcutScanTest, EndsInALoopOfFolderLinks) {
+    Put(L"a.lnk");
+    Put(L"sub\\b.lnk");
+    ASSERT_TRUE(test::LinkFolder(folder.File(L"sub\\loop"), folder.Path()));
+
+    const std::vector<std::wstring> names = Scanned();
+
+    EXPECT_THAT(names, testing::Contains(L"a"));
+    EXPECT_THAT(names, testing::Contains(L"b"));
 }
 
 TEST_F(ShortcutScanTest, FindsTheSameOnAThreadOfItsOwn) {

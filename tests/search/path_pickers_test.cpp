@@ -1,6 +1,7 @@
 #include "search/path_pickers.h"
 
 #include <objbase.h>
+#include <shlobj.h>
 
 #include <array>
 
@@ -21,6 +22,8 @@ std::wstring g_caption;
 std::wstring g_texts;
 std::wstring g_typed;
 bool g_confirms = false;
+// The folder that a picker was told to begin with.
+std::wstring g_begin;
 int g_ticks = 0;
 
 std::wstring TextOf(HWND window) {
@@ -40,6 +43,13 @@ BOOL CALLBACK FindDialog(HWND window, LPARAM found) {
     if (std::wstring_view{name.data()} != L"#32770" || !::IsWindowVisible(window)) return TRUE;
     *reinterpret_cast<HWND*>(found) = window;
     return FALSE;
+}
+
+LRESULT CALLBACK NoteBeginning(int code, WPARAM wparam, LPARAM lparam) {
+    const auto& message = *reinterpret_cast<const CWPSTRUCT*>(lparam);
+    if (code == HC_ACTION && message.message == BFFM_SETSELECTIONW && message.wParam == TRUE)
+        g_begin = reinterpret_cast<const wchar_t*>(message.lParam);
+    return ::CallNextHookEx(nullptr, code, wparam, lparam);
 }
 
 void CALLBACK AnswerDialog(HWND, UINT, UINT_PTR, DWORD) {
@@ -72,6 +82,7 @@ struct PathPickers : WindowTest {
         g_texts.clear();
         g_typed.clear();
         g_confirms = false;
+        g_begin.clear();
         g_ticks = 0;
         timer = ::SetTimer(nullptr, 0, 50, &AnswerDialog);
     }
@@ -127,11 +138,23 @@ TEST_F(PathPickers, AskForAFolderUnderTheGivenTitle) {
     EXPECT_NE(g_texts.find(L"[コマンド入力ボックス] に入力するフォルダ名を指定します。"), std::wstring::npos);
 }
 
+// How far the picker then opens its tree is up to Windows.
 TEST_F(PathPickers, BeginWithTheFolderThatTheyAreGiven) {
     const TempFolder folder;
+    const HHOOK hook = ::SetWindowsHookExW(WH_CALLWNDPROC, &NoteBeginning, nullptr, ::GetCurrentThreadId());
+
+    EXPECT_FALSE(PickFolder(Host(), L"title", L"prompt", folder.Path()).has_value());
+
+    ::UnhookWindowsHookEx(hook);
+    EXPECT_EQ(g_begin, folder.Path());
+}
+
+TEST_F(PathPickers, GiveTheFolderThatIsConfirmed) {
     g_confirms = true;
 
-    EXPECT_EQ(PickFolder(Host(), L"title", L"prompt", folder.Path()), folder.Path());
+    const auto picked = PickFolder(Host(), L"title", L"prompt", L"C:\\windows");
+
+    EXPECT_EQ(picked, L"C:\\windows");
 }
 
 TEST_F(PathPickers, AskForAFolderWhenTheFirstOneIsGone) {
