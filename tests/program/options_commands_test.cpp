@@ -312,7 +312,7 @@ TEST_F(CommandOptions, TakeFiftyUserCommandsAndNoMore) {
     const HWND options = Open(program, kCommandOptions);
     ASSERT_NE(options, nullptr);
     ShowUserList(options);
-    ASSERT_TRUE(::IsWindowEnabled(On(options, kAdd)));
+    ASSERT_TRUE(WaitUntilEnabled(On(options, kAdd)));
 
     Press('A');
     WriteCommand(program, L"五十番目", L"http://fifty.example/<%Search%>");
