@@ -26,15 +26,28 @@ inline constexpr int kOptionsTree = 1023;
     return ::GetGUIThreadInfo(::GetWindowThreadProcessId(window, nullptr), &info) ? info.hwndFocus : nullptr;
 }
 
-// The program's dialog that holds a control of its own, once it has the keyboard; null when there is none at the
-// deadline.
+// The program's dialog that holds a control of its own, once it has the keyboard and keeps it; null when there is none
+// at the deadline. The window manager may hand the keyboard back late to the window that had it before, and what is
+// typed in between is lost. A dialog that was passed over is brought to the front, as a user would do it.
 [[nodiscard]] inline HWND WaitForDialogWith(const Program& program, int control) {
+    constexpr ULONGLONG kSettledMs = 400;
+    constexpr ULONGLONG kPassedOverMs = 2000;
+    ULONGLONG last = ::GetTickCount64(); // when it did not have the keyboard, or was brought to the front
+    ULONGLONG raised = last;
     return WaitUntil([&]() -> HWND {
+        HWND dialog = nullptr;
         for (const HWND window : WindowsOf(program.Id(), L"#32770"))
-            if (::GetDlgItem(window, control) && ::GetForegroundWindow() == window &&
-                ::IsChild(window, FocusOf(window)))
-                return WaitUntilIdle(window) ? window : nullptr;
-        return nullptr;
+            if (::GetDlgItem(window, control)) dialog = window;
+        const ULONGLONG now = ::GetTickCount64();
+        if (!dialog || ::GetForegroundWindow() != dialog || !::IsChild(dialog, FocusOf(dialog))) {
+            last = now;
+            if (dialog && now - raised > kPassedOverMs) {
+                ::SetForegroundWindow(dialog);
+                raised = now;
+            }
+            return nullptr;
+        }
+        return now - last >= kSettledMs && WaitUntilIdle(dialog) ? dialog : nullptr;
     });
 }
 
@@ -64,7 +77,6 @@ protected:
     HWND Open(const Program& program, OptionsCommand command) {
         bar = program.WaitForBar();
         if (!bar) return nullptr;
-        ::SetForegroundWindow(bar);
         Command(bar, command);
         return WaitForDialogWith(program, kOptionsTree);
     }
