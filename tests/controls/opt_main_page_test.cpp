@@ -7,7 +7,6 @@
 #include <algorithm>
 #include <array>
 #include <memory>
-#include <set>
 #include <string>
 #include <vector>
 
@@ -15,6 +14,7 @@
 #include "framework/window_text.h"
 #include "tests/support/clipboard.h"
 #include "tests/support/dialog_host.h"
+#include "tests/support/dialog_walk.h"
 #include "tests/support/fake_clock.h"
 #include "tests/support/fake_store.h"
 #include "tests/support/gdi_objects.h"
@@ -153,12 +153,7 @@ TEST_F(OptMainPage, IsWalkedThroughInTheOrderOfItsControls) {
     Stored(L"DefaultBarColor") = 2;
     Open();
 
-    std::vector<int> order;
-    HWND at = Control(1045);
-    do {
-        order.push_back(::GetDlgCtrlID(at));
-        at = ::GetNextDlgTabItem(page->Handle(), at, FALSE);
-    } while (at != Control(1045) && order.size() < 100);
+    const std::vector<int> order = test::TabOrder(page->Handle(), 1045);
 
     EXPECT_THAT(order, ElementsAre(1045, 1012, 1063, 1044, 1011, 1064, 1066, 1013, 1015, 1046, 1042, 1018, 1014, 1016,
                                    1017, 1019, 1020, 1068));
@@ -167,14 +162,8 @@ TEST_F(OptMainPage, IsWalkedThroughInTheOrderOfItsControls) {
 TEST_F(OptMainPage, GivesNoAccessKeyTwice) {
     Open();
 
-    std::multiset<wchar_t> letters;
-    for (HWND child = ::GetWindow(page->Handle(), GW_CHILD); child; child = ::GetWindow(child, GW_HWNDNEXT)) {
-        const std::wstring text = fw::WindowText(child);
-        if (const auto at = text.find(L"(&"); at != std::wstring::npos) letters.insert(text[at + 2]);
-    }
-
     // The box for the time names an L without making it a key.
-    EXPECT_EQ(std::wstring(letters.begin(), letters.end()), L"CEFKMNOPRSTUVW");
+    EXPECT_EQ(test::AccessKeys(page->Handle()), L"CEFKMNOPRSTUVW");
 }
 
 // With a fifth to spare, for fonts whose letters are wider. The space between two controls in a row is theirs too.

@@ -4,7 +4,6 @@
 #include <objbase.h>
 
 #include <memory>
-#include <set>
 #include <string>
 #include <vector>
 
@@ -16,6 +15,7 @@
 #include "tests/launch/launch_items.h"
 #include "tests/launch/system_icons.h"
 #include "tests/support/canvas.h"
+#include "tests/support/dialog_walk.h"
 #include "tests/support/fake_help.h"
 #include "tests/support/gdi_objects.h"
 #include "tests/support/message_box_answer.h"
@@ -120,12 +120,7 @@ TEST_F(AddMenuDialog, HasTheLabelOfEachFieldRightBeforeIt) {
 TEST_F(AddMenuDialog, IsWalkedThroughInTheOrderOfItsControls) {
     Open(Whole());
 
-    std::vector<int> order;
-    HWND at = Control(1051);
-    do {
-        order.push_back(::GetDlgCtrlID(at));
-        at = ::GetNextDlgTabItem(dialog->Handle(), at, FALSE);
-    } while (at != Control(1051) && order.size() < 100);
+    const std::vector<int> order = test::TabOrder(dialog->Handle(), 1051);
 
     EXPECT_THAT(order, ElementsAre(1051, 1054, 1053, 1052, 1059, 1060, 1012, 1055, 1, 2, 1009));
 }
@@ -133,16 +128,7 @@ TEST_F(AddMenuDialog, IsWalkedThroughInTheOrderOfItsControls) {
 TEST_F(AddMenuDialog, GivesNoAccessKeyTwice) {
     Open();
 
-    std::set<wchar_t> keys;
-    for (HWND child = ::GetWindow(dialog->Handle(), GW_CHILD); child; child = ::GetWindow(child, GW_HWNDNEXT)) {
-        const std::wstring text = fw::WindowText(child);
-        const auto at = text.find(L"(&");
-        if (at != std::wstring::npos) {
-            EXPECT_TRUE(keys.insert(text[at + 2]).second) << char(text[at + 2]);
-        }
-    }
-
-    EXPECT_EQ(std::wstring(keys.begin(), keys.end()), L"BFNOPSW");
+    EXPECT_EQ(test::AccessKeys(dialog->Handle()), L"BFNOPSW");
 }
 
 TEST_F(AddMenuDialog, ShowsPicturesOnTheButtonsThatOnlyScreenReadersRead) {

@@ -8,11 +8,11 @@
 
 #include <array>
 #include <filesystem>
-#include <set>
 
 #include "base/format_text.h"
 #include "framework/string_table.h"
 #include "framework/window_text.h"
+#include "tests/support/dialog_walk.h"
 #include "tests/support/fake_help.h"
 #include "tests/support/fake_shortcut_reader.h"
 #include "tests/support/gdi_objects.h"
@@ -194,15 +194,7 @@ TEST_F(ImportDialog, NamesItsControls) {
 TEST_F(ImportDialog, GivesNoAccessKeyTwice) {
     Open();
 
-    std::set<wchar_t> keys;
-    for (HWND child = ::GetWindow(dialog->Handle(), GW_CHILD); child; child = ::GetWindow(child, GW_HWNDNEXT)) {
-        const std::wstring text = fw::WindowText(child);
-        const auto at = text.find(L"(&");
-        if (at != std::wstring::npos) {
-            EXPECT_TRUE(keys.insert(text[at + 2]).second) << char(text[at + 2]);
-        }
-    }
-    EXPECT_EQ(keys, (std::set<wchar_t>{L'P', L'L', L'S'}));
+    EXPECT_EQ(test::AccessKeys(dialog->Handle()), L"LPS");
 }
 
 TEST_F(ImportDialog, IsWalkedThroughInTheOrderOfItsControls) {

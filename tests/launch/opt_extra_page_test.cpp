@@ -4,7 +4,6 @@
 #include <shlobj.h>
 
 #include <memory>
-#include <set>
 #include <string>
 #include <vector>
 
@@ -12,6 +11,7 @@
 #include "launch/stored_line.h"
 #include "tests/launch/launch_items.h"
 #include "tests/support/canvas.h"
+#include "tests/support/dialog_walk.h"
 #include "tests/support/fake_help.h"
 #include "tests/support/gdi_objects.h"
 #include "tests/support/message_box_answer.h"
@@ -115,12 +115,7 @@ TEST_F(OptExtraPage, IsWalkedThroughInTheOrderOfItsControls) {
     Open(5);
     SelectRow(2);
 
-    std::vector<int> order;
-    HWND at = Control(kList);
-    do {
-        order.push_back(::GetDlgCtrlID(at));
-        at = ::GetNextDlgTabItem(page->Handle(), at, FALSE);
-    } while (at != Control(kList) && order.size() < 100);
+    const std::vector<int> order = test::TabOrder(page->Handle(), kList);
 
     EXPECT_THAT(order, ElementsAre(kList, 1030, 1031, 1032, 1033, 1034, 1058));
 }
@@ -128,16 +123,7 @@ TEST_F(OptExtraPage, IsWalkedThroughInTheOrderOfItsControls) {
 TEST_F(OptExtraPage, GivesNoAccessKeyTwice) {
     Open(5);
 
-    std::set<wchar_t> keys;
-    for (HWND child = ::GetWindow(page->Handle(), GW_CHILD); child; child = ::GetWindow(child, GW_HWNDNEXT)) {
-        const std::wstring text = fw::WindowText(child);
-        const auto at = text.find(L"(&");
-        if (at != std::wstring::npos) {
-            EXPECT_TRUE(keys.insert(text[at + 2]).second) << char(text[at + 2]);
-        }
-    }
-
-    EXPECT_EQ(std::wstring(keys.begin(), keys.end()), L"ADEIUX");
+    EXPECT_EQ(test::AccessKeys(page->Handle()), L"ADEIUX");
 }
 
 TEST_F(OptExtraPage, ShowsElevenWholeRows) {

@@ -9,6 +9,7 @@
 #include "framework/window_text.h"
 #include "settings/ini_backend.h"
 #include "tests/support/canvas.h"
+#include "tests/support/dialog_walk.h"
 #include "tests/support/fake_help.h"
 #include "tests/support/fake_store.h"
 #include "tests/support/gdi_objects.h"
@@ -191,12 +192,7 @@ TEST_F(OptionDialog, IsWalkedThroughFromTheTreeOverThePageToTheButtons) {
     Open(OptionPage::kLaunch);
     ::ShowWindow(dialog->Handle(), SW_SHOWNA);
 
-    std::vector<int> order;
-    HWND at = Control(kTree);
-    do {
-        order.push_back(::GetDlgCtrlID(at));
-        at = ::GetNextDlgTabItem(dialog->Handle(), at, FALSE);
-    } while (at != Control(kTree) && order.size() < 100);
+    const std::vector<int> order = test::TabOrder(dialog->Handle(), kTree);
 
     EXPECT_EQ(order.front(), kTree);
     EXPECT_EQ(order[1], 1057);

@@ -10,6 +10,7 @@
 #include "framework/dpi.h"
 #include "framework/window_text.h"
 #include "tests/support/canvas.h"
+#include "tests/support/dialog_walk.h"
 #include "tests/support/fake_help.h"
 #include "tests/support/gdi_objects.h"
 #include "tests/support/icon_library.h"
@@ -89,12 +90,7 @@ TEST_F(SelectIconDialog, HasTheLabelOfEachControlRightBeforeIt) {
 TEST_F(SelectIconDialog, IsWalkedThroughInTheOrderOfItsControls) {
     Open(L"");
 
-    std::vector<int> order;
-    HWND at = Control(1039);
-    do {
-        order.push_back(::GetDlgCtrlID(at));
-        at = ::GetNextDlgTabItem(dialog->Handle(), at, FALSE);
-    } while (at != Control(1039) && order.size() < 100);
+    const std::vector<int> order = test::TabOrder(dialog->Handle(), 1039);
 
     EXPECT_THAT(order, ElementsAre(1039, 1011, 1056, 1, 2, 1009));
 }

@@ -72,11 +72,6 @@ protected:
         ASSERT_TRUE(TypeInto(Control(bar, kSearchBox), text));
         PressKeys({VK_RETURN});
     }
-    static HWND FocusOf(HWND window) {
-        GUITHREADINFO info{};
-        info.cbSize = sizeof info;
-        return ::GetGUIThreadInfo(::GetWindowThreadProcessId(window, nullptr), &info) ? info.hwndFocus : nullptr;
-    }
     // The options dialog, once it has the keyboard; null when there is none at the deadline.
     static HWND WaitForDialog(const Program& program) {
         return WaitUntil([&]() -> HWND {

@@ -20,12 +20,6 @@ inline constexpr int kOptionsCancel = 2;
 inline constexpr int kOptionsHelp = 1009;
 inline constexpr int kOptionsTree = 1023;
 
-[[nodiscard]] inline HWND FocusOf(HWND window) {
-    GUITHREADINFO info{};
-    info.cbSize = sizeof info;
-    return ::GetGUIThreadInfo(::GetWindowThreadProcessId(window, nullptr), &info) ? info.hwndFocus : nullptr;
-}
-
 // The program's dialog that holds a control of its own, once it has the keyboard and keeps it; null when there is none
 // at the deadline. The window manager may hand the keyboard back late to the window that had it before, and what is
 // typed in between is lost. A dialog that was passed over is brought to the front, as a user would do it.

@@ -9,6 +9,7 @@
 
 #include "framework/window_text.h"
 #include "tests/support/clipboard.h"
+#include "tests/support/dialog_walk.h"
 #include "tests/support/fake_help.h"
 #include "tests/support/window_test.h"
 
@@ -99,12 +100,7 @@ TEST_F(AddCommandDialog, NamesItsButtonsAndItsGroup) {
 TEST_F(AddCommandDialog, IsWalkedThroughInTheOrderOfItsControls) {
     Open(SearchCommand{1, L"n", L"l", L"c"});
 
-    std::vector<int> order;
-    HWND at = Control(kName);
-    do {
-        order.push_back(::GetDlgCtrlID(at));
-        at = ::GetNextDlgTabItem(dialog->Handle(), at, FALSE);
-    } while (at != Control(kName) && order.size() < 100);
+    const std::vector<int> order = test::TabOrder(dialog->Handle(), kName);
 
     EXPECT_THAT(order, ElementsAre(kName, kLine, kComment, kPlaceholderList, kInsert, 1, 2, 1009));
 }
@@ -112,16 +108,7 @@ TEST_F(AddCommandDialog, IsWalkedThroughInTheOrderOfItsControls) {
 TEST_F(AddCommandDialog, GivesNoAccessKeyTwice) {
     Open();
 
-    std::set<wchar_t> keys;
-    for (HWND child = ::GetWindow(dialog->Handle(), GW_CHILD); child; child = ::GetWindow(child, GW_HWNDNEXT)) {
-        const std::wstring text = fw::WindowText(child);
-        const auto at = text.find(L"(&");
-        if (at != std::wstring::npos) {
-            EXPECT_TRUE(keys.insert(text[at + 2]).second) << char(text[at + 2]);
-        }
-    }
-
-    EXPECT_EQ(std::wstring(keys.begin(), keys.end()), L"CIKNT");
+    EXPECT_EQ(test::AccessKeys(dialog->Handle()), L"CIKNT");
 }
 
 TEST_F(AddCommandDialog, OpensEmptyForANewCommand) {

@@ -3,11 +3,11 @@
 #include <gmock/gmock.h>
 
 #include <memory>
-#include <set>
 #include <string>
 #include <vector>
 
 #include "framework/window_text.h"
+#include "tests/support/dialog_walk.h"
 #include "tests/support/fake_help.h"
 #include "tests/support/fake_store.h"
 #include "tests/support/message_box_answer.h"
@@ -97,12 +97,7 @@ TEST_F(EditSearchDialog, HasTheLabelOfEachFieldRightBeforeIt) {
 TEST_F(EditSearchDialog, IsWalkedThroughInTheOrderOfItsControls) {
     Open();
 
-    std::vector<int> order;
-    HWND at = Control(1007);
-    do {
-        order.push_back(::GetDlgCtrlID(at));
-        at = ::GetNextDlgTabItem(dialog->Handle(), at, FALSE);
-    } while (at != Control(1007) && order.size() < 100);
+    const std::vector<int> order = test::TabOrder(dialog->Handle(), 1007);
 
     EXPECT_THAT(order, testing::ElementsAreArray(kEveryControl));
 }
@@ -110,16 +105,7 @@ TEST_F(EditSearchDialog, IsWalkedThroughInTheOrderOfItsControls) {
 TEST_F(EditSearchDialog, GivesNoAccessKeyTwice) {
     Open();
 
-    std::set<wchar_t> keys;
-    for (HWND child = ::GetWindow(dialog->Handle(), GW_CHILD); child; child = ::GetWindow(child, GW_HWNDNEXT)) {
-        const std::wstring text = fw::WindowText(child);
-        const auto at = text.find(L"(&");
-        if (at != std::wstring::npos) {
-            EXPECT_TRUE(keys.insert(text[at + 2]).second) << char(text[at + 2]);
-        }
-    }
-
-    EXPECT_EQ(std::wstring(keys.begin(), keys.end()), L"BCEFLMRSTUVW");
+    EXPECT_EQ(test::AccessKeys(dialog->Handle()), L"BCEFLMRSTUVW");
 }
 
 TEST_F(EditSearchDialog, ShowsPicturesOnTheButtonsThatOnlyScreenReadersRead) {

@@ -15,6 +15,7 @@
 #include "settings/ini_backend.h"
 #include "settings/logic/setting_keys.h"
 #include "tests/support/dialog_host.h"
+#include "tests/support/dialog_walk.h"
 #include "tests/support/fake_help.h"
 #include "tests/support/fake_store.h"
 #include "tests/support/fake_user_file.h"
@@ -200,15 +201,16 @@ TEST_F(OptCommandPage, IsWalkedThroughInTheOrderOfItsControls) {
     SelectUser(1);
     Press(kCopy);
 
-    std::vector<int> order;
-    HWND at = Control(kUserRadio);
-    do {
-        order.push_back(::GetDlgCtrlID(at));
-        at = ::GetNextDlgTabItem(page->Handle(), at, FALSE);
-    } while (at != Control(kUserRadio) && order.size() < 100);
+    const std::vector<int> order = test::TabOrder(page->Handle(), kUserRadio);
 
     EXPECT_THAT(order, ElementsAre(kUserRadio, kUserList, kUp, kDown, kAdd, kEdit, kCopy, kPaste, kCheckAll,
                                    kUncheckAll, kDelete, kDetails, kPriority));
+}
+
+TEST_F(OptCommandPage, GivesNoAccessKeyTwiceButToTheListsOfWhichOneIsShown) {
+    Open(1, 1);
+
+    EXPECT_EQ(test::AccessKeys(page->Handle()), L"ACDEILLMOPSTUVX");
 }
 
 TEST_F(OptCommandPage, ShowsListsWithCheckBoxesAndOneSelection) {

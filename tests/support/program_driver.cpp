@@ -88,12 +88,6 @@ void Send(std::vector<INPUT> inputs) {
     ::SendInput(static_cast<UINT>(inputs.size()), inputs.data(), sizeof(INPUT));
 }
 
-HWND FocusOfThreadOf(HWND window) {
-    GUITHREADINFO info{};
-    info.cbSize = sizeof info;
-    return ::GetGUIThreadInfo(::GetWindowThreadProcessId(window, nullptr), &info) ? info.hwndFocus : nullptr;
-}
-
 // The environment of this process with another folder in front of its search path, as CreateProcess wants it.
 std::wstring EnvironmentWithPath(const std::wstring& folder) {
     std::wstring block;
@@ -206,11 +200,17 @@ void Click(HWND window) {
     Send(std::move(inputs));
 }
 
+HWND FocusOf(HWND window) {
+    GUITHREADINFO info{};
+    info.cbSize = sizeof info;
+    return ::GetGUIThreadInfo(::GetWindowThreadProcessId(window, nullptr), &info) ? info.hwndFocus : nullptr;
+}
+
 bool ClickIntoFocus(HWND control) {
     const HWND top = ::GetAncestor(control, GA_ROOT);
     ::SetForegroundWindow(top);
     Click(control);
-    return WaitUntil([&] { return FocusOfThreadOf(control) == control && ::GetForegroundWindow() == top; });
+    return WaitUntil([&] { return FocusOf(control) == control && ::GetForegroundWindow() == top; });
 }
 
 std::wstring TextOfError(DWORD code) {

@@ -40,6 +40,8 @@ void PressKeys(std::initializer_list<WORD> keys);
 void TypeText(std::wstring_view text);
 // Clicks the middle of a window with the left mouse button.
 void Click(HWND window);
+// What has the keyboard focus in the thread of a window; null when nothing has.
+[[nodiscard]] HWND FocusOf(HWND window);
 // Gives a control of another process the keyboard focus by clicking it; false when it did not get it.
 [[nodiscard]] bool ClickIntoFocus(HWND control);
 
