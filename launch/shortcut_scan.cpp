@@ -7,10 +7,9 @@
 #include <atomic>
 #include <mutex>
 #include <optional>
-#include <system_error>
-#include <thread>
 #include <utility>
 
+#include "framework/thread.h"
 #include "launch/shortcut.h"
 #include "launch/shortcut_walk.h"
 
@@ -150,12 +149,8 @@ std::vector<ImportableItem> ShortcutScan::Take() {
 }
 
 void ShortcutScan::StartThread(const std::shared_ptr<Progress>& progress, unsigned turn) {
-    try {
-        std::thread{[progress, turn] { Work(progress, turn); }}.detach();
-    } catch (const std::system_error&) {
-        // Windows has no thread to give: the scan is over before it began.
-        progress->End();
-    }
+    // Without a thread the scan is over before it began.
+    if (!fw::StartThread([progress, turn] { Work(progress, turn); })) progress->End();
 }
 
 void ShortcutScan::Work(const std::shared_ptr<Progress>& progress, unsigned turn) {

@@ -3,7 +3,7 @@
 
 Decisions (a "logic" folder) see the base, their own part's logic and the settings' logic; hands see their own part and
 the parts below it; nothing but app sees app. A .cpp file includes its own header first, so that the header is proved
-to stand alone.
+to stand alone. The program starts threads with framework/thread.h, which says why.
 """
 
 import posixpath
@@ -59,6 +59,8 @@ def findings(root):
                 yield f'{path}: may not include "{target}"'
             elif delimiter == "<" and is_logic(path) and target.endswith(".h") and not path.startswith("tests/"):
                 yield f"{path}: decisions include no system header, but here is <{target}>"
+            elif delimiter == "<" and target == "thread" and path.split("/")[0] not in ("tests", "benchmarks"):
+                yield f"{path}: threads are started with framework/thread.h, not with <thread>"
 
 
 if __name__ == "__main__":

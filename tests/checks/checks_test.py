@@ -68,6 +68,10 @@ class IncludeRules(CheckCase):
         self.tree(search__logic__a_h="#include <windows.h>\n")
         self.assertEqual(len(self.found()), 1)
 
+    def test_only_tests_use_the_librarys_threads(self):
+        self.tree(search__a_h="#include <thread>\n", tests__search__a_cpp="#include <thread>\n")
+        self.assertEqual(self.found(), ["search/a.h: threads are started with framework/thread.h, not with <thread>"])
+
     def test_decisions_of_one_part_must_not_see_those_of_another(self):
         self.tree(launch__logic__b_h="", search__logic__a_h='#include "launch/logic/b.h"\n')
         self.assertEqual(len(self.found()), 1)
