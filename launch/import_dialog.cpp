@@ -232,7 +232,9 @@ void CImportDialog::OnOk() {
     scan_.Stop();
     for (const ImportableItem* found : list_.Selected()) {
         CLaunchItem item;
-        item.Set(found->path, found->arguments, found->workingFolder, found->name, found->iconFile, found->iconIndex);
+        item.Set(found->path, found->arguments, found->workingFolder, found->name);
+        // The file may be on a computer that has gone since.
+        item.SetIcon(found->iconFile, found->iconIndex, fw::UniqueIcon{::CopyIcon(found->icon.Get())});
         items_.push_back(std::move(item));
     }
     confirmed_ = true;

@@ -11,6 +11,7 @@
 #include "settings/logic/setting_keys.h"
 
 namespace korvane::launch {
+
 bool CLaunchItem::Load(const settings::ProfileStore& store, int index, bool withIcon) {
     icon_.Reset();
     iconIndex_ = kNoIcon;
@@ -46,6 +47,12 @@ void CLaunchItem::SetIcon(std::wstring file, int index) {
     iconFile_ = std::move(file);
     iconIndex_ = index;
     ExtractIcon();
+}
+
+void CLaunchItem::SetIcon(std::wstring file, int index, fw::UniqueIcon icon) {
+    iconFile_ = std::move(file);
+    iconIndex_ = index;
+    icon_ = std::move(icon);
 }
 
 void CLaunchItem::Assign(const CLaunchItem& other) {

@@ -36,6 +36,8 @@ public:
              std::optional<std::wstring> iconFile = {}, int iconIndex = kNoIcon);
     // The icon alone; the one before is destroyed.
     void SetIcon(std::wstring file, int index);
+    // Likewise, with the small icon that was got from there before, so that the file is not asked again.
+    void SetIcon(std::wstring file, int index, fw::UniqueIcon icon);
     void Assign(const CLaunchItem& other);
 
     [[nodiscard]] std::pair<std::wstring, int> GetIconLocation() const { return {iconFile_, iconIndex_}; }

@@ -414,6 +414,20 @@ TEST_F(ImportDialog, GivesBackWhatIsSelectedInTheOrderOfItsList) {
     EXPECT_TRUE(dialog->TakeItems().empty());
 }
 
+// The reader names files that there are not, and gives icons all the same.
+TEST_F(ImportDialog, GivesBackTheIconsOfItsListWithoutAskingTheirFilesAgain) {
+    Put(L"programs\\a.lnk");
+    OpenAndSettle();
+    SelectRow(L"a");
+
+    Command(IDOK);
+    const std::vector<CLaunchItem> items = dialog->TakeItems();
+
+    ASSERT_EQ(items.size(), 1U);
+    EXPECT_EQ(test::ColourOf(items[0].Icon()), RGB(200, 60, 20));
+    EXPECT_EQ(items[0].GetIconLocation(), (std::pair<std::wstring, int>{L"C:\\a.ico", 3}));
+}
+
 TEST_F(ImportDialog, GivesNothingBackWhenNothingIsSelected) {
     Put(L"programs\\a.lnk");
     OpenAndSettle();
