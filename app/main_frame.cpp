@@ -4,7 +4,6 @@
 
 #include "about/program_version.h"
 #include "app/bar_font.h"
-#include "app/logic/bar_colours.h"
 #include "app/logic/command_routes.h"
 #include "app/logic/floating_window.h"
 #include "framework/dpi.h"
@@ -19,6 +18,7 @@
 #include "search/code_pages.h"
 #include "search/logic/command_selection.h"
 #include "search/search_tools.h"
+#include "settings/logic/bar_colour.h"
 #include "settings/logic/data_folder_path.h"
 #include "settings/logic/setting_keys.h"
 #include "settings/logic/window_placement.h"
@@ -163,7 +163,7 @@ void CMainFrame::ReadColours() {
     // Without a desktop window manager there is no such colour, and black stands for it.
     systemColour_ = base::Colour::FromArgb(fw::ColorizationColour().value_or(0));
     const base::Colour user = settings_.Read(keys::UserBarColor, systemColourAtStart_.value_or(systemColour_));
-    barColour_ = BarColour(settings_.Read(keys::DefaultBarColor), systemColour_, user);
+    barColour_ = settings::BarColour(settings_.Read(keys::DefaultBarColor), systemColour_, user);
 }
 
 void CMainFrame::ApplyColour() {

@@ -13,6 +13,7 @@
 #include "framework/program_path.h"
 #include "framework/string_table.h"
 #include "framework/window_text.h"
+#include "settings/logic/bar_colour.h"
 
 namespace korvane::controls {
 namespace {
@@ -194,9 +195,9 @@ void COptMainPage::EnableDependents() {
 
 void COptMainPage::ShowColour() {
     const int row = Row(IDC_BAR_COLOUR);
-    swatch_.Reset(::CreateSolidBrush(fw::ToWindows(ColourOfRow(row, SystemColourNow(), userColour_))));
+    swatch_.Reset(::CreateSolidBrush(fw::ToWindows(settings::BarColour(row, SystemColourNow(), userColour_))));
     ::InvalidateRect(Control(IDC_COLOUR_SWATCH), nullptr, TRUE);
-    Enable(IDC_PICK_COLOUR, row == kUserColourRow);
+    Enable(IDC_PICK_COLOUR, row == settings::kUserColour);
 }
 
 void COptMainPage::ShowFormat() {

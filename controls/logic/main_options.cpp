@@ -4,12 +4,10 @@
 
 #include "base/format_text.h"
 #include "base/text.h"
+#include "settings/logic/bar_colour.h"
 
 namespace korvane::controls {
 namespace {
-
-constexpr int kThemeColourRow = 0;
-constexpr int kSystemColourRow = 1;
 
 // More characters than this do not count.
 constexpr std::size_t kReadCharacters = 15;
@@ -35,7 +33,7 @@ int EdgeRow(int stored) {
 }
 
 int ColourRow(int stored) {
-    return IsRowOf(stored, kColourTexts.size()) ? stored : kSystemColourRow;
+    return IsRowOf(stored, kColourTexts.size()) ? stored : settings::kSystemColour;
 }
 
 int DelayRow(int stored) {
@@ -44,11 +42,6 @@ int DelayRow(int stored) {
 
 int FormatRow(int stored) {
     return IsRowOf(stored, kFormatTexts.size()) ? stored : 0;
-}
-
-base::Colour ColourOfRow(int row, base::Colour system, base::Colour user) {
-    if (row == kThemeColourRow) return base::kThemeColour;
-    return row == kUserColourRow ? user : system;
 }
 
 std::wstring HistoryLengthText(int stored) {

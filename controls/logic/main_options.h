@@ -5,7 +5,6 @@
 #include <string>
 #include <string_view>
 
-#include "base/colour.h"
 #include "res/ids.h"
 #include "settings/logic/setting_keys.h"
 
@@ -62,12 +61,6 @@ inline constexpr int kDelayCount = 10;
 [[nodiscard]] int ColourRow(int stored);
 [[nodiscard]] int DelayRow(int stored);
 [[nodiscard]] int FormatRow(int stored);
-
-// The row of the user's own colour.
-inline constexpr int kUserColourRow = 2;
-
-// `system` is the desktop window manager's colour.
-[[nodiscard]] base::Colour ColourOfRow(int row, base::Colour system, base::Colour user);
 
 // How many entries of each history are kept. No number at all is stored as -1.
 inline constexpr int kShortestHistory = 1;

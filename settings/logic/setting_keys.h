@@ -61,7 +61,7 @@ namespace keys {
 
 // The bar and its place.
 inline constexpr IntSetting    DesktopBarEdge           {section::kGeneral, L"DesktopBarEdge",           0}; // 0 = top, else bottom
-inline constexpr IntSetting    DefaultBarColor          {section::kGeneral, L"DefaultBarColor",          1}; // 0 fixed, 1 window manager's, 2 user's
+inline constexpr IntSetting    DefaultBarColor          {section::kGeneral, L"DefaultBarColor",          1}; // see BarColour
 inline constexpr ColourSetting UserBarColor             {section::kGeneral, L"UserBarColor"};                // falls back to the window manager's
 inline constexpr IntSetting    DesktopBarAutoHide       {section::kGeneral, L"DesktopBarAutoHide",       0};
 inline constexpr IntSetting    DesktopBarAutoHideSecond {section::kGeneral, L"DesktopBarAutoHideSecond", 0}; // an index, see AutoHideDelay

@@ -8,7 +8,6 @@
 #include <string>
 #include <vector>
 
-#include "app/logic/bar_colours.h"
 #include "framework/centred_message_box.h"
 #include "framework/dpi.h"
 #include "framework/gdi.h"

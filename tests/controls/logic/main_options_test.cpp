@@ -8,7 +8,6 @@
 namespace korvane::controls {
 namespace {
 
-using base::Colour;
 using testing::ElementsAre;
 
 namespace keys = settings::keys;
@@ -68,16 +67,6 @@ TEST(MainOptions, TakesADelayOutOfRangeForTheNearest) {
 TEST(MainOptions, TakesAClockFormatThatThereIsNotForTheFirst) {
     for (int stored = 0; stored < 5; ++stored) EXPECT_EQ(FormatRow(stored), stored);
     for (const int stored : {5, 7, -1, kSmallest, kLargest}) EXPECT_EQ(FormatRow(stored), 0) << stored;
-}
-
-TEST(MainOptions, ColoursTheBarAsItsRowSays) {
-    constexpr Colour kSystem = Colour::Rgb(1, 2, 3);
-    constexpr Colour kUser = Colour::Rgb(4, 5, 6);
-
-    EXPECT_EQ(ColourOfRow(0, kSystem, kUser), Colour::Rgb(159, 22, 106));
-    EXPECT_EQ(ColourOfRow(0, kSystem, kUser).value, 0x6A169FU);
-    EXPECT_EQ(ColourOfRow(1, kSystem, kUser), kSystem);
-    EXPECT_EQ(ColourOfRow(2, kSystem, kUser), kUser);
 }
 
 TEST(MainOptions, ShowsAStoredHistoryLengthWithinItsRange) {

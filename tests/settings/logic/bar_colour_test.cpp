@@ -1,8 +1,8 @@
-#include "app/logic/bar_colours.h"
+#include "settings/logic/bar_colour.h"
 
 #include <gtest/gtest.h>
 
-using namespace korvane::app;
+using namespace korvane::settings;
 using korvane::base::Colour;
 
 namespace {
@@ -12,10 +12,6 @@ constexpr Colour kUser = Colour::Rgb(4, 5, 6);
 
 TEST(BarColour, ZeroIsTheThemeColour) {
     EXPECT_EQ(BarColour(0, kSystem, kUser), Colour::Rgb(159, 22, 106));
-}
-
-TEST(BarColour, TheThemeColourReads0x6A169FAsAColorref) {
-    EXPECT_EQ(kThemeColour.value, 0x6A169FU);
 }
 
 TEST(BarColour, OneIsTheWindowManagersColour) {

@@ -2,20 +2,18 @@
 
 #include "base/colour.h"
 
-namespace korvane::app {
-
-using base::kThemeColour;
+namespace korvane::settings {
 
 // The values of the setting that chooses the bar's colour.
-inline constexpr int kColourTheme = 0;
-inline constexpr int kColourSystem = 1;
-inline constexpr int kColourUser = 2;
+inline constexpr int kThemeColour = 0;
+inline constexpr int kSystemColour = 1;
+inline constexpr int kUserColour = 2;
 
 // `system` is the desktop window manager's colour. A value that is none of the three counts as the default, the
 // system's.
 [[nodiscard]] constexpr base::Colour BarColour(int choice, base::Colour system, base::Colour user) {
-    if (choice == kColourTheme) return kThemeColour;
-    return choice == kColourUser ? user : system;
+    if (choice == kThemeColour) return base::kThemeColour;
+    return choice == kUserColour ? user : system;
 }
 
-} // namespace korvane::app
+} // namespace korvane::settings
