@@ -411,6 +411,7 @@ TEST_F(ImportDialog, GivesBackWhatIsSelectedInTheOrderOfItsList) {
     EXPECT_EQ(items[0].GetIconLocation(), (std::pair{iconFile, 0}));
     EXPECT_EQ(test::ColourOf(items[0].Icon()), RGB(9, 8, 200));
     EXPECT_EQ(items[1].Name(), rows[2]);
+    EXPECT_TRUE(dialog->Confirmed());
     EXPECT_TRUE(dialog->TakeItems().empty());
 }
 
@@ -444,6 +445,7 @@ TEST_F(ImportDialog, GivesNothingBackWhenItIsCancelled) {
 
     Command(IDCANCEL);
 
+    EXPECT_FALSE(dialog->Confirmed());
     EXPECT_TRUE(dialog->TakeItems().empty());
 }
 
