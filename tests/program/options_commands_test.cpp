@@ -258,11 +258,7 @@ TEST_F(CommandOptions, AreNotLeftWithoutASelectedCommand) {
     Press('O');
     ASSERT_TRUE(WaitForCount(options, L"選択コマンド数: 0 (標準コマンド数: 2)"));
 
-    PressKeys({VK_SHIFT, VK_TAB});
-    ASSERT_TRUE(WaitUntil([&] {
-        if (FocusOf(options) != ::GetDlgItem(options, kOptionsTree)) PressKeys({VK_SHIFT, VK_TAB});
-        return FocusOf(options) == ::GetDlgItem(options, kOptionsTree);
-    }));
+    ASSERT_TRUE(TabTo(::GetDlgItem(options, kOptionsTree), {VK_SHIFT, VK_TAB}));
     PressKeys({VK_DOWN});
 
     const auto box = program.WaitForBox(MessageBoxView{options});
@@ -287,7 +283,7 @@ TEST_F(CommandOptions, StopAtFiftySelectedCommands) {
               L"選択可能な最大コマンド数は [標準コマンド] と [ユーザー定義コマンド] をあわせて 50 個です。\n\n※ "
               L"[ユーザー定義コマンド] で現在 0 個のコマンドが選択されています。");
     EXPECT_EQ(box.Icon(), BoxIcon::kInformation);
-    ASSERT_TRUE(box.Press(IDOK));
+    ASSERT_TRUE(box.Press(IDOK) && WaitForKeyboard(options));
     EXPECT_TRUE(WaitForCount(options, L"選択コマンド数: 50 (標準コマンド数: 150)"));
     EXPECT_TRUE(WaitUntilEnabled(On(options, kCheckAll), false));
     EXPECT_EQ(WindowsOf(program.Id(), L"#32770").size(), 1U);

@@ -3,6 +3,7 @@
 #include <windows.h>
 
 #include <chrono>
+#include <initializer_list>
 #include <string>
 #include <string_view>
 
@@ -20,28 +21,47 @@ inline constexpr int kOptionsCancel = 2;
 inline constexpr int kOptionsHelp = 1009;
 inline constexpr int kOptionsTree = 1023;
 
-// The program's dialog that holds a control of its own, once it has the keyboard and keeps it; null when there is none
-// at the deadline. The window manager may hand the keyboard back late to the window that had it before, and what is
-// typed in between is lost. A dialog that was passed over is brought to the front, as a user would do it.
-[[nodiscard]] inline HWND WaitForDialogWith(const Program& program, int control) {
+// Waits until a dialog has the keyboard and keeps it. The window manager may hand the keyboard back late to the window
+// that had it before, and what is typed in between is lost. A dialog that was passed over is brought to the front, as a
+// user would do it.
+[[nodiscard]] inline bool WaitForKeyboard(HWND dialog) {
     constexpr ULONGLONG kSettledMs = 400;
     constexpr ULONGLONG kPassedOverMs = 2000;
-    ULONGLONG last = ::GetTickCount64(); // when it did not have the keyboard, or was brought to the front
+    ULONGLONG last = ::GetTickCount64(); // when it did not have the keyboard
     ULONGLONG raised = last;
-    return WaitUntil([&]() -> HWND {
-        HWND dialog = nullptr;
-        for (const HWND window : WindowsOf(program.Id(), L"#32770"))
-            if (::GetDlgItem(window, control)) dialog = window;
+    return WaitUntil([&] {
         const ULONGLONG now = ::GetTickCount64();
-        if (!dialog || ::GetForegroundWindow() != dialog || !::IsChild(dialog, FocusOf(dialog))) {
-            last = now;
-            if (dialog && now - raised > kPassedOverMs) {
-                ::SetForegroundWindow(dialog);
-                raised = now;
-            }
-            return nullptr;
+        if (::GetForegroundWindow() == dialog && ::IsChild(dialog, FocusOf(dialog)))
+            return now - last >= kSettledMs && WaitUntilIdle(dialog);
+        last = now;
+        if (now - raised > kPassedOverMs) {
+            ::SetForegroundWindow(dialog);
+            raised = now;
         }
-        return now - last >= kSettledMs && WaitUntilIdle(dialog) ? dialog : nullptr;
+        return false;
+    });
+}
+
+// The program's dialog that holds a control of its own, once it has the keyboard; null when there is none at the
+// deadline.
+[[nodiscard]] inline HWND WaitForDialogWith(const Program& program, int control) {
+    const HWND dialog = WaitUntil([&]() -> HWND {
+        for (const HWND window : WindowsOf(program.Id(), L"#32770"))
+            if (::GetDlgItem(window, control)) return window;
+        return nullptr;
+    });
+    return dialog && WaitForKeyboard(dialog) ? dialog : nullptr;
+}
+
+// Walks with Tab until a control has the keyboard, one press at a time: a press that is still on its way would walk
+// past it.
+[[nodiscard]] inline bool TabTo(HWND control, std::initializer_list<WORD> keys = {VK_TAB}) {
+    return WaitUntil([&] {
+        const HWND before = FocusOf(control);
+        if (before == control) return true;
+        PressKeys(keys);
+        WaitUntil([&] { return FocusOf(control) != before; }, std::chrono::seconds{2});
+        return false;
     });
 }
 

@@ -133,7 +133,7 @@ TEST_F(LaunchOptions, LeaveTheItemsAsTheyWereWhenTheyAreCancelled) {
     EXPECT_EQ(box.Caption(), L"オプション - ランチ メニューの設定");
     EXPECT_EQ(box.Icon(), BoxIcon::kQuestion);
     EXPECT_EQ(box.Buttons(), (std::vector<int>{IDYES, IDNO, IDCANCEL}));
-    ASSERT_TRUE(box.Press(IDYES));
+    ASSERT_TRUE(box.Press(IDYES) && WaitForKeyboard(options));
     ASSERT_TRUE(WaitForNames(options, {L"項目2", L"項目3", L"項目4", L"項目5"}));
 
     ASSERT_TRUE(CancelByKey(options));
@@ -162,13 +162,10 @@ TEST_F(LaunchOptions, AddAnItemByKeyboardAlone) {
     ASSERT_TRUE(box && box.Handle() != options);
     EXPECT_EQ(box.Text(), L"メニューに表示するアイコンが設定されていません。");
     EXPECT_EQ(box.Caption(), L"ランチ メニュー の追加");
-    ASSERT_TRUE(box.Press(IDOK));
+    ASSERT_TRUE(box.Press(IDOK) && WaitForKeyboard(editor));
 
     // To the button of the icon, and into the picker.
-    ASSERT_TRUE(WaitUntil([&] {
-        if (FocusOf(editor) != ::GetDlgItem(editor, kChangeIcon)) PressKeys({VK_TAB});
-        return FocusOf(editor) == ::GetDlgItem(editor, kChangeIcon);
-    }));
+    ASSERT_TRUE(TabTo(::GetDlgItem(editor, kChangeIcon)));
     PressKeys({VK_SPACE});
     const HWND picker = WaitForDialogWith(program, kIconFile);
     ASSERT_NE(picker, nullptr);
@@ -197,10 +194,7 @@ TEST_F(LaunchOptions, InsertANewFirstButtonWithShift) {
     const Program program;
     const HWND options = Open(program, kLaunchOptions);
     ASSERT_NE(options, nullptr);
-    ASSERT_TRUE(WaitUntil([&] {
-        if (FocusOf(options) != On(options, kAdd)) PressKeys({VK_TAB});
-        return FocusOf(options) == On(options, kAdd);
-    }));
+    ASSERT_TRUE(TabTo(On(options, kAdd)));
 
     PressKeys({VK_SHIFT, VK_SPACE});
     const HWND editor = WaitForDialogWith(program, kProgram);

@@ -267,9 +267,8 @@ TEST_F(Options, InsistOnANumberOfHistoryItemsWhileTheyAreSaved) {
     EXPECT_EQ(box.Caption(), L"オプション - 基本設定");
     EXPECT_EQ(box.Text(), L"コマンド入力ボックス および 検索ボックス の入力履歴の保存項目数が指定されていません。");
     EXPECT_EQ(box.Icon(), BoxIcon::kWarning);
-    ASSERT_TRUE(box.Press(IDOK));
-    EXPECT_TRUE(WaitForFocus(On(options, kLength)));
-    EXPECT_TRUE(::IsWindowVisible(options));
+    ASSERT_TRUE(box.Press(IDOK) && WaitForKeyboard(options));
+    EXPECT_EQ(FocusOf(options), On(options, kLength));
 
     Press('S');
     ASSERT_TRUE(WaitUntil([&] { return !IsChecked(options, kSaveHistories); }));
@@ -292,7 +291,7 @@ TEST_F(Options, ClearBothHistoriesAtOnce) {
     EXPECT_EQ(box.Caption(), L"オプション - 基本設定");
     EXPECT_EQ(box.Icon(), BoxIcon::kQuestion);
     EXPECT_EQ(box.Buttons(), (std::vector<int>{IDYES, IDNO, IDCANCEL}));
-    ASSERT_TRUE(box.Press(IDYES));
+    ASSERT_TRUE(box.Press(IDYES) && WaitForKeyboard(options));
     EXPECT_TRUE(WaitUntilEnabled(On(options, kClearHistories), false));
 
     ASSERT_TRUE(CancelByKey(options));
@@ -308,10 +307,7 @@ TEST_F(Options, TakeEnterOnAPictureForItsOwnPress) {
     ASSERT_NE(options, nullptr);
     Press('N');
     ASSERT_TRUE(WaitForFocus(On(options, kLength)));
-    ASSERT_TRUE(WaitUntil([&] {
-        if (FocusOf(options) != On(options, kClearHistories)) PressKeys({VK_TAB});
-        return FocusOf(options) == On(options, kClearHistories);
-    }));
+    ASSERT_TRUE(TabTo(On(options, kClearHistories)));
 
     PressKeys({VK_RETURN});
 
