@@ -13,6 +13,14 @@ namespace korvane::base {
 // digits does not count, and a text without a number gives 0. A number out of range gives the nearest that fits.
 [[nodiscard]] int LeadingInteger(std::wstring_view text);
 
+// The ordinary digit for a wide one (U+FF10 to U+FF19), which an input method may give; any other character unchanged.
+[[nodiscard]] constexpr wchar_t NarrowDigit(wchar_t character) {
+    constexpr wchar_t kWideZero = L'\uFF10';
+    constexpr wchar_t kWideNine = L'\uFF19';
+    const bool wide = character >= kWideZero && character <= kWideNine;
+    return wide ? static_cast<wchar_t>(L'0' + (character - kWideZero)) : character;
+}
+
 // Without the blanks, tabs and line breaks at both ends.
 [[nodiscard]] std::wstring_view Trimmed(std::wstring_view text);
 

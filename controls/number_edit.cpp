@@ -2,15 +2,14 @@
 
 #include <string>
 
+#include "base/text.h"
 #include "framework/window_text.h"
 
 namespace korvane::controls {
 
 LRESULT NumberEdit::OnCharacter(const fw::Message& message) {
-    constexpr WPARAM kWideZero = 0xFF10;
-    constexpr WPARAM kWideNine = 0xFF19;
     fw::Message typed = message;
-    if (typed.wparam >= kWideZero && typed.wparam <= kWideNine) typed.wparam = L'0' + (typed.wparam - kWideZero);
+    typed.wparam = base::NarrowDigit(static_cast<wchar_t>(message.wparam));
     return Default(typed);
 }
 

@@ -49,12 +49,8 @@ std::wstring HistoryLengthText(int stored) {
 }
 
 std::optional<int> HistoryLengthOf(std::wstring_view text) {
-    // An input method may have left wide digits.
-    constexpr wchar_t kWideZero = L'\uFF10';
-    constexpr wchar_t kWideNine = L'\uFF19';
     std::wstring digits{text.substr(0, kReadCharacters)};
-    for (wchar_t& digit : digits)
-        if (digit >= kWideZero && digit <= kWideNine) digit = static_cast<wchar_t>(L'0' + (digit - kWideZero));
+    std::transform(digits.begin(), digits.end(), digits.begin(), &base::NarrowDigit);
     if (digits.find_first_of(L"0123456789") == std::wstring::npos) return std::nullopt;
     return std::clamp(base::LeadingInteger(digits), kShortestHistory, kLongestHistory);
 }

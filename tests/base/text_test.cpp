@@ -19,6 +19,12 @@ TEST(EqualIgnoringAsciiCase, FoldsTheLettersAToZOnly) {
     EXPECT_FALSE(EqualIgnoringAsciiCase(L"Ä", L"ä"));
 }
 
+TEST(NarrowDigit, MakesWideDigitsOrdinaryAndLeavesTheRestAlone) {
+    EXPECT_EQ(NarrowDigit(L'\uFF10'), L'0');
+    EXPECT_EQ(NarrowDigit(L'\uFF19'), L'9');
+    for (const wchar_t other : {L'0', L'9', L'a', L'\b', L'\uFF0F', L'\uFF1A'}) EXPECT_EQ(NarrowDigit(other), other);
+}
+
 TEST(LeadingInteger, ReadsTheDigitsAtTheBeginning) {
     EXPECT_EQ(LeadingInteger(L"42"), 42);
     EXPECT_EQ(LeadingInteger(L" \t-17,5"), -17);
