@@ -59,6 +59,13 @@ protected:
     static LRESULT SelectionOf(HWND options, int combo) {
         return ::SendMessageW(On(options, combo), CB_GETCURSEL, 0, 0);
     }
+    // Takes the number of history items away, and leaves the keyboard there.
+    static bool EmptyTheLength(HWND options) {
+        Press('N');
+        if (!WaitForFocus(On(options, kLength))) return false;
+        PressKeys({VK_DELETE});
+        return WaitUntil([&] { return TextOn(options, kLength).empty(); });
+    }
 };
 
 TEST_F(Options, AreOpenedByTheirButton) {
@@ -255,10 +262,7 @@ TEST_F(Options, InsistOnANumberOfHistoryItemsWhileTheyAreSaved) {
     const Program program;
     const HWND options = Open(program, kMainOptions);
     ASSERT_NE(options, nullptr);
-    Press('N');
-    ASSERT_TRUE(WaitForFocus(On(options, kLength)));
-    PressKeys({VK_DELETE});
-    ASSERT_TRUE(WaitUntil([&] { return TextOn(options, kLength).empty(); }));
+    ASSERT_TRUE(EmptyTheLength(options));
 
     PressKeys({VK_RETURN});
 
@@ -323,10 +327,7 @@ TEST_F(Options, AreNotTurnedByAClickWhileTheNumberIsMissing) {
     const Program program;
     const HWND options = Open(program, kMainOptions);
     ASSERT_NE(options, nullptr);
-    Press('N');
-    ASSERT_TRUE(WaitForFocus(On(options, kLength)));
-    PressKeys({VK_DELETE});
-    ASSERT_TRUE(WaitUntil([&] { return TextOn(options, kLength).empty(); }));
+    ASSERT_TRUE(EmptyTheLength(options));
 
     // The third row of the tree.
     RECT tree{};
