@@ -23,6 +23,11 @@ DialogObject::~DialogObject() {
     ::DestroyWindow(window);
 }
 
+void DialogObject::EndConfirmed() {
+    confirmed_ = true;
+    ::EndDialog(Handle(), IDOK);
+}
+
 INT_PTR DialogObject::RunModal(UINT dialogTemplate, HWND owner) {
     return ::DialogBoxParamW(::GetModuleHandleW(nullptr), MAKEINTRESOURCEW(dialogTemplate), owner, &DialogProcedure,
                              reinterpret_cast<LPARAM>(this));

@@ -11,15 +11,24 @@ public:
     // A dialog's map falls back to the dialog manager, which runs when the procedure answers FALSE.
     LRESULT Default(const Message&) override { return 0; }
 
+    // True once the dialog was confirmed. What ShowModal gives would not tell: it is IDOK too when the program is told
+    // to quit while the dialog is open.
+    [[nodiscard]] bool Confirmed() const { return confirmed_; }
+
 protected:
     // A control of the template by its identifier.
     [[nodiscard]] HWND Control(int id) const { return ::GetDlgItem(Handle(), id); }
+
+    // Ends a modal dialog as confirmed.
+    void EndConfirmed();
 
     [[nodiscard]] INT_PTR RunModal(UINT dialogTemplate, HWND owner);
     [[nodiscard]] bool CreateModeless(UINT dialogTemplate, HWND owner);
 
 private:
     static INT_PTR CALLBACK DialogProcedure(HWND window, UINT id, WPARAM wparam, LPARAM lparam);
+
+    bool confirmed_ = false;
 };
 
 // Base of a dialog class T, which declares `static constexpr UINT kTemplate` and `static constexpr auto Messages()`.

@@ -211,8 +211,7 @@ void CAddMenuDialog::OnOk() {
 
     ItemFields& item = check.accepted;
     item_.Set(std::move(item.program), std::move(item.arguments), std::move(item.workingFolder), std::move(item.name));
-    confirmed_ = true;
-    ::EndDialog(Handle(), IDOK);
+    EndConfirmed();
 }
 
 void CAddMenuDialog::OnCancel() {

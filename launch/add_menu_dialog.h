@@ -40,9 +40,6 @@ public:
     // Without an item to edit a new one is made. Icon and help outlive the dialog.
     CAddMenuDialog(HICON smallIcon, about::HelpOpener& help, std::optional<CLaunchItem> edited = {});
 
-    // True once the item has passed all checks. The dialog's result would not tell: it is IDOK too when the program is
-    // told to quit while the dialog is open.
-    [[nodiscard]] bool Confirmed() const { return confirmed_; }
     [[nodiscard]] const CLaunchItem& Item() const { return item_; }
 
     // Takes what the user picked as the program: with its icon and, unless the name is to be kept, its name.
@@ -76,7 +73,6 @@ private:
     about::HelpOpener& help_;
     bool editing_;
     CLaunchItem item_;
-    bool confirmed_ = false;
     fw::UniqueImageList shownIcon_; // one image, on the button
     controls::GlyphButton browseProgram_{&controls::DotsGlyph};
     controls::GlyphButton browseFolder_{&controls::DotsGlyph};

@@ -237,8 +237,7 @@ void CImportDialog::OnOk() {
         item.SetIcon(found->iconFile, found->iconIndex, fw::UniqueIcon{::CopyIcon(found->icon.Get())});
         items_.push_back(std::move(item));
     }
-    confirmed_ = true;
-    ::EndDialog(Handle(), IDOK);
+    EndConfirmed();
 }
 
 void CImportDialog::OnCancel() {

@@ -50,8 +50,6 @@ public:
     // With something else than the shell to read the shortcuts.
     CImportDialog(int count, HICON smallIcon, about::HelpOpener& help, std::shared_ptr<ShortcutReader> reader);
 
-    // True once the dialog was confirmed. Its result would not tell: it is IDOK too when the program is told to quit.
-    [[nodiscard]] bool Confirmed() const { return confirmed_; }
     // What was selected when the dialog was confirmed, in the order of its list; empty otherwise. For one call.
     [[nodiscard]] std::vector<CLaunchItem> TakeItems() { return std::move(items_); }
 
@@ -93,7 +91,6 @@ private:
     fw::Timer timer_;
     CImportListBox list_;
     std::vector<CLaunchItem> items_;
-    bool confirmed_ = false;
 };
 
 } // namespace korvane::launch

@@ -222,8 +222,7 @@ fw::Reply COptionDialog::OnSystemChange(const fw::Message& message) {
 void COptionDialog::OnOk() {
     if (!Acceptable(CurrentPage())) return;
     Save();
-    confirmed_ = true;
-    ::EndDialog(Handle(), IDOK);
+    EndConfirmed();
 }
 
 void COptionDialog::Save() {

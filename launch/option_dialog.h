@@ -53,10 +53,6 @@ public:
 
     COptionDialog(OptionPage startPage, const OptionServices& services);
 
-    // True once everything was saved. The dialog's result would not tell: it is IDOK too when the program is told to
-    // quit while the dialog is open.
-    [[nodiscard]] bool Confirmed() const { return confirmed_; }
-
     // Shows another page, unless the one on view holds input that it cannot leave.
     void GoTo(OptionPage page);
 
@@ -97,7 +93,6 @@ private:
     base::Point logoPlace_;
     fw::UniqueBrush stripBrush_;
     int stripEnd_ = 0; // the right edge of the tree
-    bool confirmed_ = false;
     bool closing_ = false;
 };
 

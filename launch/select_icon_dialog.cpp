@@ -12,6 +12,7 @@
 #include "search/path_pickers.h"
 
 namespace korvane::launch {
+
 CSelectIconDialog::CSelectIconDialog(std::wstring iconFile, int iconIndex, HICON smallIcon, about::HelpOpener& help)
     : iconFile_{std::move(iconFile)}, iconIndex_{iconIndex}, smallIcon_{smallIcon}, help_{help} {}
 
@@ -94,20 +95,20 @@ void CSelectIconDialog::OnIconSelected() {
 
 void CSelectIconDialog::OnIconDoubleClicked() {
     if (list_.Selected() < 0) return OnCancel();
-    Confirm();
+    Choose();
 }
 
 void CSelectIconDialog::OnOk() {
     // Within the field the Enter key first shows what was typed: nobody can mean an icon that is not to be seen yet.
     const bool enterInField = ::GetFocus() == Control(IDC_ICON_FILE) && TypedFile() != iconFile_;
     ShowIcons();
-    if (!enterInField) Confirm();
+    if (!enterInField) Choose();
 }
 
-void CSelectIconDialog::Confirm() {
+void CSelectIconDialog::Choose() {
     iconIndex_ = list_.Selected();
-    confirmed_ = closing_ = true;
-    ::EndDialog(Handle(), IDOK);
+    closing_ = true;
+    EndConfirmed();
 }
 
 void CSelectIconDialog::OnCancel() {

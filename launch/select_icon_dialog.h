@@ -41,9 +41,6 @@ public:
     // Begins with this icon. Icon and help outlive the dialog.
     CSelectIconDialog(std::wstring iconFile, int iconIndex, HICON smallIcon, about::HelpOpener& help);
 
-    // True once an icon was chosen. The dialog's result would not tell: it is IDOK too when the program is told to quit
-    // while the dialog is open.
-    [[nodiscard]] bool Confirmed() const { return confirmed_; }
     [[nodiscard]] const std::wstring& IconFile() const { return iconFile_; }
     // -1 when none was selected.
     [[nodiscard]] int IconIndex() const { return iconIndex_; }
@@ -68,13 +65,12 @@ private:
     [[nodiscard]] std::wstring TypedFile() const;
     // Fills the list with the icons of the typed file, unless they are there already.
     void ShowIcons();
-    void Confirm();
+    void Choose();
 
     std::wstring iconFile_; // whose icons are listed
     int iconIndex_;         // what is selected, or was in the file before
     HICON smallIcon_;
     about::HelpOpener& help_;
-    bool confirmed_ = false;
     bool closing_ = false; // the field that still has the focus is left then
     // The list borrows them.
     std::vector<fw::UniqueIcon> icons_;
