@@ -1,4 +1,5 @@
 #include <array>
+#include <chrono>
 
 #include "tests/program/program_test.h"
 
@@ -216,9 +217,15 @@ TEST_F(HotKeys, OpenTheLaunchMenu) {
     const Program program;
     ASSERT_NE(program.WaitForBar(), nullptr);
 
-    PressKeys({VK_MENU, VK_LWIN, 'X'});
+    // A busy display server can swallow a key, or hand the focus out so late that it closes the menu; a user would
+    // press once more, too.
+    bool opened = false;
+    for (int attempt = 0; attempt < 5 && !opened; ++attempt) {
+        PressKeys({VK_MENU, VK_LWIN, 'X'});
+        opened = WaitUntil([] { return !AllWindows(L"#32768").empty(); }, std::chrono::seconds{4});
+    }
 
-    ASSERT_TRUE(WaitUntil([] { return !AllWindows(L"#32768").empty(); }));
+    ASSERT_TRUE(opened);
     PressKeys({VK_ESCAPE});
     EXPECT_TRUE(WaitUntil([] { return AllWindows(L"#32768").empty(); }));
 }
