@@ -3,6 +3,8 @@
 #include <commctrl.h>
 #include <imm.h>
 
+#include <utility>
+
 #include "framework/system_library.h"
 #include "framework/window_text.h"
 
@@ -72,6 +74,31 @@ bool CEditEx::Empty() const {
 
 void CEditEx::SelectAll() {
     ::SendMessageW(Handle(), EM_SETSEL, 0, -1);
+}
+
+void CEditEx::EmptyUndoably() {
+    SelectAll();
+    ::SendMessageW(Handle(), EM_REPLACESEL, TRUE, reinterpret_cast<LPARAM>(L""));
+}
+
+fw::Reply CEditEx::OnMouseActivate(const fw::Message&) {
+    activating_ = ::GetFocus() != Handle();
+    return fw::kPassOn;
+}
+
+fw::Reply CEditEx::OnPress(const fw::Message&) {
+    entering_ = std::exchange(activating_, false) || ::GetFocus() != Handle();
+    return fw::kPassOn;
+}
+
+LRESULT CEditEx::OnRelease(const fw::Message& message) {
+    const LRESULT result = Default(message);
+    // Whoever has dragged over a part of the text wants that part.
+    DWORD first = 0;
+    DWORD last = 0;
+    ::SendMessageW(Handle(), EM_GETSEL, reinterpret_cast<WPARAM>(&first), reinterpret_cast<LPARAM>(&last));
+    if (std::exchange(entering_, false) && first == last && ::GetFocus() == Handle()) SelectAll();
+    return result;
 }
 
 bool CEditEx::Composing() const {

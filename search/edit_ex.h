@@ -7,14 +7,16 @@
 
 namespace korvane::search {
 
-// One of the two boxes of the bar: an edit control of one line, of any length, with a tooltip of its own.
+// One of the two boxes of the bar: an edit control of one line, of any length, with a tooltip of its own. The click
+// that brings the keyboard into it selects all; the next one places the caret.
 class CEditEx final : public fw::Window<CEditEx>, public OneLineEdit<CEditEx> {
 public:
     static constexpr fw::WindowClass kClass{.name = L"EditEx_WndClass", .base = L"EDIT"};
 
     static constexpr auto Messages() {
         return fw::MessageMap{
-            fw::On<WM_DESTROY>(&CEditEx::OnDestroy),
+            fw::On<WM_DESTROY>(&CEditEx::OnDestroy),   fw::On<WM_MOUSEACTIVATE>(&CEditEx::OnMouseActivate),
+            fw::On<WM_LBUTTONDOWN>(&CEditEx::OnPress), fw::On<WM_LBUTTONUP>(&CEditEx::OnRelease),
             fw::Chain<OneLineEdit<CEditEx>>(),
         };
     }
@@ -29,6 +31,8 @@ public:
     void SetText(const std::wstring& text);
     [[nodiscard]] bool Empty() const;
     void SelectAll();
+    // Empties the box as typing would, so that it can be undone.
+    void EmptyUndoably();
 
     // True while the input method holds text that is not yet in the box; Enter is then the method's own.
     [[nodiscard]] bool Composing() const;
@@ -38,9 +42,16 @@ public:
 
 private:
     fw::Reply OnDestroy();
+    fw::Reply OnMouseActivate(const fw::Message& message);
+    fw::Reply OnPress(const fw::Message& message);
+    LRESULT OnRelease(const fw::Message& message);
     void AddToolTip(const std::wstring& tip);
 
     HWND toolTip_ = nullptr;
+    // The press under way brings the keyboard here; the activation that comes before it gives the box the focus
+    // already.
+    bool activating_ = false;
+    bool entering_ = false;
 };
 
 } // namespace korvane::search

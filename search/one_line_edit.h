@@ -1,12 +1,13 @@
 #pragma once
 
 #include "framework/message_map.h"
+#include "search/delete_word.h"
 #include "search/one_line_paste.h"
 
 namespace korvane::search {
 
-// What an edit control of one line does not do by itself: Ctrl+A selects all, and text of several lines is pasted
-// whole. T is a window over the EDIT class.
+// What an edit control of one line does not do by itself: Ctrl+A selects all, Ctrl+Backspace takes the word before the
+// caret away, and text of several lines is pasted whole. T is a window over the EDIT class.
 template <class T>
 class OneLineEdit {
 public:
@@ -24,9 +25,17 @@ private:
     }
     fw::Reply OnCharacter(const fw::Message& message) {
         constexpr WPARAM kCtrlA = 1;
-        if (message.wparam != kCtrlA) return fw::kPassOn;
-        ::SendMessageW(message.window, EM_SETSEL, 0, -1);
-        return LRESULT{0};
+        constexpr WPARAM kCtrlBackspace = 0x7F;
+        switch (message.wparam) {
+        case kCtrlA:
+            ::SendMessageW(message.window, EM_SETSEL, 0, -1);
+            return LRESULT{0};
+        case kCtrlBackspace:
+            DeleteWordBeforeCaret(message.window);
+            return LRESULT{0};
+        default:
+            return fw::kPassOn;
+        }
     }
 
     friend T;

@@ -184,3 +184,77 @@ TEST_F(EditEx, StaysAsItIsWhenThereIsNothingToPaste) {
 TEST_F(EditEx, IsNotComposingByItself) {
     EXPECT_FALSE(box.Composing());
 }
+
+TEST_F(EditEx, SelectsAllWithTheClickThatBringsTheKeyboardThere) {
+    box.SetText(L"notepad readme.txt");
+    ::SetFocus(Host());
+
+    Send(box.Handle(), WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(20, 8));
+    Send(box.Handle(), WM_LBUTTONUP, 0, MAKELPARAM(20, 8));
+
+    EXPECT_EQ(Selection(), (std::pair<DWORD, DWORD>{0, 18}));
+}
+
+TEST_F(EditEx, PlacesTheCaretWithTheSecondClick) {
+    box.SetText(L"notepad readme.txt");
+    ::SetFocus(box.Handle());
+    box.SelectAll();
+
+    Send(box.Handle(), WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(20, 8));
+    Send(box.Handle(), WM_LBUTTONUP, 0, MAKELPARAM(20, 8));
+
+    EXPECT_EQ(Selection().first, Selection().second);
+}
+
+TEST_F(EditEx, SelectsAllWhenTheClickActivatesTheBarFirst) {
+    box.SetText(L"notepad");
+    ::SetFocus(Host());
+    Send(box.Handle(), WM_MOUSEACTIVATE, reinterpret_cast<WPARAM>(Host()), MAKELPARAM(HTCLIENT, WM_LBUTTONDOWN));
+    // The activation gives the keyboard to the box that had it last, before the press arrives.
+    ::SetFocus(box.Handle());
+
+    Send(box.Handle(), WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(20, 8));
+    Send(box.Handle(), WM_LBUTTONUP, 0, MAKELPARAM(20, 8));
+
+    EXPECT_EQ(Selection(), (std::pair<DWORD, DWORD>{0, 7}));
+}
+
+TEST_F(EditEx, KeepsWhatTheFirstPressHasDraggedOver) {
+    box.SetText(L"notepad readme.txt");
+    ::SetFocus(Host());
+
+    Send(box.Handle(), WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(1, 8));
+    Send(box.Handle(), WM_MOUSEMOVE, MK_LBUTTON, MAKELPARAM(30, 8));
+    Send(box.Handle(), WM_LBUTTONUP, 0, MAKELPARAM(30, 8));
+
+    EXPECT_GT(Selection().second, Selection().first);
+    EXPECT_LT(Selection().second, 18U);
+}
+
+TEST_F(EditEx, TakesTheWordBeforeTheCaretAwayWithCtrlBackspace) {
+    box.SetText(L"東京 タワー");
+
+    Send(box.Handle(), WM_CHAR, 0x7F);
+
+    EXPECT_EQ(box.Text(), L"東京 ");
+    EXPECT_EQ(Selection(), (std::pair<DWORD, DWORD>{3, 3}));
+}
+
+TEST_F(EditEx, TakesOnlyTheSelectionAwayWithCtrlBackspace) {
+    box.SetText(L"one two");
+    Send(box.Handle(), EM_SETSEL, 4, 6);
+
+    Send(box.Handle(), WM_CHAR, 0x7F);
+
+    EXPECT_EQ(box.Text(), L"one o");
+}
+
+TEST_F(EditEx, CanBeEmptiedAndFilledAgain) {
+    box.SetText(L"typed with care");
+
+    box.EmptyUndoably();
+    EXPECT_TRUE(box.Empty());
+    Send(box.Handle(), EM_UNDO);
+
+    EXPECT_EQ(box.Text(), L"typed with care");
+}
