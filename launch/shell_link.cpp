@@ -4,14 +4,14 @@
 
 namespace korvane::launch {
 
-UniqueInterface<IShellLinkW> LoadShellLink(const std::wstring& file) {
+fw::UniqueInterface<IShellLinkW> LoadShellLink(const std::wstring& file) {
     void* created = nullptr;
     if (FAILED(::CoCreateInstance(CLSID_ShellLink, nullptr, CLSCTX_INPROC_SERVER, IID_IShellLinkW, &created)))
         return {};
-    UniqueInterface<IShellLinkW> link{static_cast<IShellLinkW*>(created)};
+    fw::UniqueInterface<IShellLinkW> link{static_cast<IShellLinkW*>(created)};
     void* persist = nullptr;
     if (FAILED(link->QueryInterface(IID_IPersistFile, &persist))) return {};
-    const UniqueInterface<IPersistFile> persistFile{static_cast<IPersistFile*>(persist)};
+    const fw::UniqueInterface<IPersistFile> persistFile{static_cast<IPersistFile*>(persist)};
     return SUCCEEDED(persistFile->Load(file.c_str(), STGM_READ)) ? std::move(link) : nullptr;
 }
 

@@ -4,19 +4,14 @@
 
 #include <shlobj.h>
 
-#include <memory>
 #include <string>
+
+#include "framework/unique_interface.h"
 
 namespace korvane::launch {
 
-struct ReleaseInterface {
-    void operator()(IUnknown* object) const { object->Release(); }
-};
-template <class T>
-using UniqueInterface = std::unique_ptr<T, ReleaseInterface>;
-
 // What a shortcut file says. Nobody asks its target. COM must be initialised on this thread. Empty when the file is no
 // shortcut or cannot be read.
-[[nodiscard]] UniqueInterface<IShellLinkW> LoadShellLink(const std::wstring& file);
+[[nodiscard]] fw::UniqueInterface<IShellLinkW> LoadShellLink(const std::wstring& file);
 
 } // namespace korvane::launch
