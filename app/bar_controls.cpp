@@ -109,6 +109,16 @@ void BarControls::Place(const BarLayout& at) {
     ::EndDeferWindowPos(batch);
 }
 
+std::vector<HWND> BarControls::InReadingOrder() const {
+    std::vector<HWND> windows{mainMenu.Handle(),      commandBox.Handle(),    commandHistory.Handle(),
+                              runTyped.Handle(),      searchChooser.Handle(), searchBox.Handle(),
+                              searchHistory.Handle(), runSearch.Handle(),     controlPanel.Handle()};
+    for (const controls::CToolButton& button : launchButtons) windows.push_back(button.Handle());
+    for (const HWND window : {options.Handle(), help.Handle(), clock.Handle(), exit.Handle()})
+        windows.push_back(window);
+    return windows;
+}
+
 void BarControls::ShowClock(bool shown) {
     ::ShowWindow(clock.Handle(), shown ? SW_SHOWNA : SW_HIDE);
 }

@@ -3,6 +3,7 @@
 #include <windows.h>
 
 #include <array>
+#include <vector>
 
 #include "app/logic/bar_layout.h"
 #include "base/colour.h"
@@ -28,6 +29,8 @@ public:
     // on settings is applied afterwards.
     [[nodiscard]] bool Create(HWND frame, HFONT barFont, const BarLayout& layout);
     void Place(const BarLayout& layout);
+    // Everything that the keyboard can be on, as the eye meets it.
+    [[nodiscard]] std::vector<HWND> InReadingOrder() const;
     void ShowClock(bool shown);
     void ShowExit(bool shown);
     // Shows or hides the controls that would show in a hidden bar's strip.

@@ -62,6 +62,8 @@ void CMainFrame::ShowFirst(int showCommand) {
     ::RedrawWindow(Handle(), nullptr, nullptr, RDW_UPDATENOW | RDW_ALLCHILDREN);
     notificationIcon_.Add(Handle(), smallIcon_.Get());
     clipboard_.Start(Handle());
+    // What is dragged to a hidden bar's strip calls it out as the mouse alone does.
+    drop_.Start(Handle(), [this] { docking_.OnHitTest(); });
     launch::BuildLaunchMenu(menus_, settings_);
     search::DetectSearchTools(settings_);
     versionText_ = about::ReadVersionText();
@@ -122,7 +124,7 @@ bool CMainFrame::CreateChildren() {
         creationError_ = ::GetLastError();
         return false;
     }
-    lastFocus_ = controls_.commandBox.Handle();
+    keyboard_.Begin(Handle());
     NameMenusForThisWindows();
     AddMenuImages();
     return true;
@@ -227,6 +229,7 @@ void CMainFrame::OnDestroy() {
     showBarKey_.Unregister();
     launchMenuKey_.Unregister();
     clipboard_.Stop();
+    drop_.Stop();
     // A creation that fails late has no closing before it.
     docking_.Leave();
     // A frame that was never there does not end the loop: the message would close the box that reports the failure.
@@ -294,16 +297,22 @@ bool CMainFrame::OnEraseBackground(HDC dc) {
 }
 
 void CMainFrame::OnSetFocus(const fw::Message&) {
-    ::SetFocus(lastFocus_);
+    ::SetFocus(keyboard_.BoxWindow(keyboard_.Home()).Handle());
 }
 
 fw::Reply CMainFrame::OnActivate(UINT how, bool) {
-    // The default procedure gives the focus to the frame on the way back, and the frame passes it on.
-    const HWND focus = ::GetFocus();
-    const bool inBox = focus == controls_.commandBox.Handle() || focus == controls_.searchBox.Handle();
-    if (how == WA_INACTIVE && inBox) lastFocus_ = focus;
     docking_.OnActivated(how != WA_INACTIVE);
+    // On the way back the default procedure gives the focus to the frame, and the frame passes it on.
     return fw::kPassOn;
+}
+
+fw::Reply CMainFrame::OnActivateApp(const fw::Message& message) {
+    if (message.wparam == FALSE) keyboard_.ForgetOrigin();
+    return fw::kPassOn;
+}
+
+void CMainFrame::OnBoxFocused(UINT boxId) {
+    keyboard_.SetHome(boxId == ID_SEARCH_BOX ? search::Box::kSearch : search::Box::kCommand);
 }
 
 void CMainFrame::OnColorizationChanged() {
@@ -320,7 +329,11 @@ void CMainFrame::OnBoxChanged(UINT boxId) {
 
 // A control of the bar may know better than the frame what its notification means.
 fw::Reply CMainFrame::OnControlCommand(const fw::Message& message) {
-    return message.lparam != 0 ? Reflect(message) : fw::Reply{};
+    if (message.lparam == 0) return fw::kPassOn;
+    const fw::Reply reply = Reflect(message);
+    // A pressed button has done its part; what is typed next belongs into a box.
+    if (!reply && HIWORD(message.wparam) == BN_CLICKED) keyboard_.OnPressed(LOWORD(message.wparam));
+    return reply;
 }
 
 fw::Reply CMainFrame::OnDrawItem(const fw::Message& message) {
@@ -333,26 +346,18 @@ fw::Reply CMainFrame::OnNotify(const fw::Message& message) {
 }
 
 void CMainFrame::OnHotKey(int id) {
-    if (id == HOTKEY_SHOW_BAR) ShowBarUnderCursor();
+    if (id == HOTKEY_SHOW_BAR) SummonBar();
     if (id == HOTKEY_LAUNCH_MENU && !modalMessageOpen_) TrackFromOutside(launch::LaunchPopup(menus_));
 }
 
 bool CMainFrame::PreTranslate(const MSG& message) {
     if (message.hwnd != Handle() && !::IsChild(Handle(), message.hwnd)) return false;
 
-    if (message.message == WM_KEYDOWN && message.wParam == VK_RETURN) {
-        const int id = ::GetDlgCtrlID(message.hwnd);
-        auto* const box = dynamic_cast<search::CEditEx*>(WindowObject::From(message.hwnd));
-        const search::KeyDecision decision =
-            search::CommandForKey({.virtualKey = static_cast<unsigned>(message.wParam),
-                                   .controlId = id,
-                                   .enterEnabled = settings_.Read(keys::EnableEnterEvent) == 1,
-                                   .composing = box && box->Composing(),
-                                   .boxEmpty = ::GetWindowTextLengthW(message.hwnd) == 0});
-        if (decision.answer == search::KeyAnswer::kRun)
-            ::PostMessageW(Handle(), WM_COMMAND, static_cast<WPARAM>(decision.command), 0);
-        if (decision.answer != search::KeyAnswer::kPassOn) return true;
-    }
+    if (keyboard_.IsForEyes(message)) docking_.ShowOnDemand();
+    const bool enterRuns = message.wParam == VK_RETURN && settings_.Read(keys::EnableEnterEvent) == 1;
+    if (keyboard_.OnKey(message, enterRuns)) return true;
+    if (message.message == WM_MOUSEWHEEL && OnWheel(message)) return true;
+    if (message.message == WM_LBUTTONDOWN) keyboard_.Touch();
     MSG translated = message;
     return ::TranslateAcceleratorW(Handle(), accelerators_.Get(), &translated) ||
            ::IsDialogMessageW(Handle(), &translated);

@@ -6,14 +6,18 @@
 #include <functional>
 #include <optional>
 #include <string>
+#include <vector>
 
 #include "about/help_opener.h"
 #include "about/help_session.h"
 #include "app/bar_controls.h"
+#include "app/bar_drop.h"
+#include "app/bar_keyboard.h"
 #include "app/clipboard_monitor.h"
 #include "app/logic/bar_layout.h"
 #include "app/logic/docked_window.h"
 #include "app/logic/docking.h"
+#include "app/logic/wheel_steps.h"
 #include "app/notification_icon.h"
 #include "app/task_list.h"
 #include "app/win_shell.h"
@@ -82,11 +86,14 @@ public:
             fw::On<WM_ERASEBKGND>(&CMainFrame::OnEraseBackground),
             fw::On<WM_SETFOCUS>(&CMainFrame::OnSetFocus),
             fw::On<WM_ACTIVATE>(&CMainFrame::OnActivate),
+            fw::On<WM_ACTIVATEAPP>(&CMainFrame::OnActivateApp),
+            fw::On<WM_CONTEXTMENU>(&CMainFrame::OnContextMenu),
             fw::On<WM_HOTKEY>(&CMainFrame::OnHotKey),
             fw::On<WM_HELP>(&CMainFrame::OnHelp),
             fw::On<WM_DWMCOLORIZATIONCOLORCHANGED>(&CMainFrame::OnColorizationChanged),
             fw::On<WM_COMMAND>(&CMainFrame::OnControlCommand),
             fw::OnControl<ID_COMMAND_BOX, ID_SEARCH_BOX, EN_CHANGE>(&CMainFrame::OnBoxChanged),
+            fw::OnControl<ID_COMMAND_BOX, ID_SEARCH_BOX, EN_SETFOCUS>(&CMainFrame::OnBoxFocused),
             fw::OnCommand<ID_COMMAND_HISTORY, ID_HELP_CONTENTS>(&CMainFrame::OnCommand),
             fw::On<WM_DRAWITEM>(&CMainFrame::OnDrawItem),
             fw::On<WM_NOTIFY>(&CMainFrame::OnNotify),
@@ -122,12 +129,14 @@ public:
     // controls::TimeDateHost
     [[nodiscard]] HBRUSH BarBrush() const override { return barBrush_.Get(); }
     void OnTimeSettingsStarted(INT_PTR shellResult) override;
-    void OnTimeDateClosed() override { --openCalendars_; }
+    void OnTimeDateClosed() override;
 
     // about::HelpOpener
     void OpenHelp(std::wstring_view topic, HWND asker) override;
 
     // search::HistoryDropDownHost
+    void OnEntryPicked(search::Box box) override;
+    std::vector<search::HistoryRow> RemoveEntry(search::Box box, const std::wstring& text) override;
     void OnDropDownClosed(search::Box box) override;
     void BrowseFile() override;
     void BrowseFolder() override;
@@ -183,10 +192,13 @@ private:
     bool OnEraseBackground(HDC dc);
     void OnSetFocus(const fw::Message& message);
     fw::Reply OnActivate(UINT how, bool minimised);
+    fw::Reply OnActivateApp(const fw::Message& message);
+    fw::Reply OnContextMenu(const fw::Message& message);
     void OnHotKey(int id);
     void OnHelp(const fw::Message& message);
     void OnColorizationChanged();
     void OnBoxChanged(UINT boxId);
+    void OnBoxFocused(UINT boxId);
     fw::Reply OnControlCommand(const fw::Message& message);
     fw::Reply OnCommand(UINT command);
     fw::Reply OnDrawItem(const fw::Message& message);
@@ -219,8 +231,16 @@ private:
     // The same when the user did not come from the bar itself.
     void TrackFromOutside(HMENU menu);
 
+    // What can be done with the item on a launch button, and what its menu does.
+    void OpenLaunchButtonMenu(UINT command, POINT at);
+    void EditLaunchButton(UINT command);
+    // Over the chooser the wheel changes the search command. False where it is somebody else's.
+    [[nodiscard]] bool OnWheel(const MSG& message);
+
     // Commands.
     void ShowBarUnderCursor();
+    // Brings the bar and the keyboard to the user, wherever both are.
+    void SummonBar();
     void RunLaunchItem(UINT command);
     void RunProgram(UINT command);
     // Tells what went wrong when the shell's result says that something did.
@@ -232,18 +252,18 @@ private:
     void ToggleClipboardMonitor();
     void ToggleAutoHide();
     void ToggleTopmost();
-    void ReturnFocusTo(search::Box box);
     void OpenHistory(UINT command);
+    [[nodiscard]] std::vector<search::HistoryRow> HistoryRows(search::Box box) const;
     void PressHistoryButton(UINT command);
     void OpenMenuButton(UINT command);
     void EnterPickedPath(const std::optional<std::wstring>& path);
     void RunEntry(UINT command);
+    void RunEntryWith(UINT command, const std::wstring& moreArguments);
     void ChooseSearchCommand(UINT command);
     void MakeCurrent(search::SearchCommandId id, const std::wstring& name);
 
     // A text of the search menu.
     [[nodiscard]] std::wstring MenuText(UINT command) const;
-    [[nodiscard]] search::CEditEx& BoxWindow(search::Box box);
     [[nodiscard]] controls::CDropDownButton& HistoryButton(search::Box box);
     [[nodiscard]] search::SearchStores Stores();
 
@@ -268,6 +288,9 @@ private:
     search::Histories histories_;
 
     BarControls controls_;
+    BarKeyboard keyboard_{controls_};
+    BarDrop drop_{controls_, keyboard_,
+                  [this](UINT command, const std::wstring& arguments) { RunEntryWith(command, arguments); }};
     BarLayout layout_;
     LONG laidOutWidth_ = -1; // of the client area that the layout is for
     fw::UniqueFont barFont_;
@@ -280,6 +303,7 @@ private:
     std::optional<base::Colour> systemColourAtStart_;
 
     search::SearchCommandId currentSearch_;
+    WheelSteps wheel_;
     search::WinProcessStarter starter_;
     search::SearchTextEncoder encoder_;
 
@@ -298,7 +322,6 @@ private:
     launch::COptionDialog* options_ = nullptr; // while it is open
 
     bool clockShown_ = false;
-    HWND lastFocus_ = nullptr;
 
     // While one of these is set the bar is in use and must not hide.
     bool modalMessageOpen_ = false;

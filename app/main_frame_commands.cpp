@@ -32,11 +32,9 @@ fw::Reply CMainFrame::OnCommand(UINT command) {
     if (!route) return fw::kPassOn;
     switch (*route) {
     case Route::kRunTyped:
-        ReturnFocusTo(Box::kCommand);
         RunTypedCommand();
         break;
     case Route::kRunSearch:
-        ReturnFocusTo(Box::kSearch);
         ExecuteSearchCommand();
         break;
     case Route::kOpenHistory:
@@ -109,12 +107,6 @@ fw::Reply CMainFrame::OnCommand(UINT command) {
     return LRESULT{0};
 }
 
-// A click leaves the focus on the button, where the next thing typed would go nowhere.
-void CMainFrame::ReturnFocusTo(Box box) {
-    const controls::CToolButton& button = box == Box::kSearch ? controls_.runSearch : controls_.runTyped;
-    if (::GetFocus() == button.Handle()) ::SetFocus(BoxWindow(box).Handle());
-}
-
 void CMainFrame::RunTypedCommand() {
     const std::wstring text = controls_.commandBox.Text();
     // Its button is disabled then, but its key is not; the shell would take an empty name for the current folder.
@@ -123,12 +115,20 @@ void CMainFrame::RunTypedCommand() {
     if (outcome.Started()) {
         histories_.Of(Box::kCommand).Add(text);
     } else {
+        // The next try begins with what failed, or replaces it.
+        keyboard_.GoToAllOf(Box::kCommand);
         ReportError(outcome.error);
     }
 }
 
 void CMainFrame::RunEntry(UINT command) {
     ReportStart(launch::RunCommandEntry(launch::LoadCommandEntry(command, settings_)), fw::Centring::kNone);
+}
+
+void CMainFrame::RunEntryWith(UINT command, const std::wstring& moreArguments) {
+    launch::CommandEntry entry = launch::LoadCommandEntry(command, settings_);
+    entry.arguments = WithAppended(std::move(entry.arguments), moreArguments);
+    ReportStart(launch::RunCommandEntry(entry), fw::Centring::kNone);
 }
 
 void CMainFrame::RunLaunchItem(UINT command) {
@@ -162,24 +162,42 @@ void CMainFrame::OpenHistory(UINT command) {
     ::MapWindowPoints(Handle(), nullptr, reinterpret_cast<POINT*>(&onScreen), 2);
     HistoryButton(box).SetMenuShown(true);
     openHistory_ = box;
-    const HWND opened = search::CDropDownDialog::Open(
-        *this, {.owner = Handle(),
-                .edit = BoxWindow(box).Handle(),
-                .box = box,
-                .region = fw::FromWindows(onScreen),
-                .rows = search::PlanHistoryRows(box, histories_.Of(box).Entries(), search::LoadHistoryRowTexts())});
+    const HWND opened = search::CDropDownDialog::Open(*this, {.owner = Handle(),
+                                                              .edit = keyboard_.BoxWindow(box).Handle(),
+                                                              .box = box,
+                                                              .region = fw::FromWindows(onScreen),
+                                                              .rows = HistoryRows(box)});
     if (!opened) OnDropDownClosed(box);
+}
+
+std::vector<search::HistoryRow> CMainFrame::HistoryRows(Box box) const {
+    return search::PlanHistoryRows(box, histories_.Of(box).Entries(), search::LoadHistoryRowTexts());
+}
+
+void CMainFrame::OnEntryPicked(Box box) {
+    // Before the pop-up is gone: Windows gives the keyboard back while it is being destroyed.
+    keyboard_.SetHome(box);
+}
+
+std::vector<search::HistoryRow> CMainFrame::RemoveEntry(Box box, const std::wstring& text) {
+    histories_.Of(box).Remove(text);
+    return HistoryRows(box);
 }
 
 void CMainFrame::OnDropDownClosed(Box box) {
     openHistory_.reset();
-    lastFocus_ = BoxWindow(box).Handle();
     HistoryButton(box).SetMenuShown(false);
+    keyboard_.Return();
 }
 
 void CMainFrame::OpenCalendar() {
     ++openCalendars_;
     if (!controls::CTimeDateDialog::Open(*this, Handle(), loop_)) --openCalendars_;
+}
+
+void CMainFrame::OnTimeDateClosed() {
+    --openCalendars_;
+    keyboard_.Return();
 }
 
 void CMainFrame::OnTimeSettingsStarted(INT_PTR shellResult) {
@@ -217,14 +235,14 @@ void CMainFrame::EnterPickedPath(const std::optional<std::wstring>& path) {
     const std::wstring text = box.Text();
     const auto entry = text.ends_with(L' ') ? search::PathEntry::kAppend : search::PathEntry::kReplace;
     box.SetText(search::WithPickedPath(text, *path, entry));
-    ::SetFocus(box.Handle());
+    keyboard_.GoTo(Box::kCommand);
 }
 
 void CMainFrame::ClearHistory(Box box) {
     const std::wstring name = fw::LoadText(box == Box::kSearch ? IDS_SEARCH_BOX : IDS_COMMAND_BOX);
     if (Ask(fw::FormatResource(IDS_CLEAR_HISTORY, std::wstring_view{name})) != IDYES) return;
     histories_.Of(box).Clear();
-    BoxWindow(box).SetText(L"");
+    keyboard_.BoxWindow(box).SetText(L"");
 }
 
 bool CMainFrame::HistoriesEmpty() const {
@@ -234,7 +252,7 @@ bool CMainFrame::HistoriesEmpty() const {
 void CMainFrame::ClearHistories() {
     for (const Box box : {Box::kCommand, Box::kSearch}) {
         histories_.Of(box).Clear();
-        BoxWindow(box).SetText(L"");
+        keyboard_.BoxWindow(box).SetText(L"");
     }
 }
 
@@ -279,6 +297,7 @@ void CMainFrame::MakeCurrent(search::SearchCommandId id, const std::wstring& nam
 
 void CMainFrame::ChooseSearchCommand(UINT command) {
     MakeCurrent(search::SearchCommandId{static_cast<int>(command)}, MenuText(command));
+    keyboard_.GoToAllOf(Box::kSearch);
     if (::IsWindowEnabled(controls_.runSearch.Handle())) ExecuteSearchCommand();
 }
 
@@ -304,14 +323,13 @@ void CMainFrame::ExecuteSearchCommand() {
     if (std::holds_alternative<search::SearchStarted>(outcome)) {
         histories_.Of(Box::kSearch).Add(text);
     } else if (const auto* const failed = std::get_if<search::SearchFailed>(&outcome)) {
+        keyboard_.GoToAllOf(Box::kSearch);
         ReportError(failed->error);
     } else if (const auto* const refusal = std::get_if<search::Refusal>(&outcome)) {
-        if (!refusal->silent) Warn(fw::FormatResource(refusal->messageId, std::wstring_view{refusal->argument}));
+        if (refusal->silent) return;
+        keyboard_.GoToAllOf(Box::kSearch);
+        Warn(fw::FormatResource(refusal->messageId, std::wstring_view{refusal->argument}));
     }
-}
-
-search::CEditEx& CMainFrame::BoxWindow(Box box) {
-    return box == Box::kSearch ? controls_.searchBox : controls_.commandBox;
 }
 
 controls::CDropDownButton& CMainFrame::HistoryButton(Box box) {

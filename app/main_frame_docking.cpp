@@ -135,7 +135,8 @@ bool CMainFrame::CursorInside() const {
 }
 
 bool CMainFrame::InUse() const {
-    return inputBusy_ || openHistory_ || openCalendars_ > 0 || modalMessageOpen_;
+    return inputBusy_ || openHistory_ || openCalendars_ > 0 || modalMessageOpen_ || drop_.DraggedOver() ||
+           keyboard_.OnButton();
 }
 
 WindowId CMainFrame::WindowAbove() const {
@@ -206,6 +207,17 @@ void CMainFrame::ShowBarUnderCursor() {
     // So the bar stays out: it hides as soon as the cursor is elsewhere.
     const base::Rect box = fw::WindowRect(controls_.searchBox.Handle());
     ::SetCursorPos(box.left, (box.top + box.bottom) / 2);
+}
+
+void CMainFrame::SummonBar() {
+    // What the bar asks has to be answered first.
+    if (!::IsWindowEnabled(Handle())) {
+        ::SetForegroundWindow(::GetLastActivePopup(Handle()));
+        return;
+    }
+    if (inputBusy_) ::EndMenu();
+    ShowBarUnderCursor();
+    keyboard_.Summon(search::Box::kSearch);
 }
 
 void CMainFrame::ToggleAutoHide() {

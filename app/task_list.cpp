@@ -98,7 +98,24 @@ BOOL CALLBACK Collect(HWND window, LPARAM windows) {
     return TRUE;
 }
 
+bool IsTaskWindow(HWND window, HWND bar, const std::wstring& title, bool cloaked) {
+    const auto style = static_cast<DWORD>(::GetWindowLongPtrW(window, GWL_STYLE));
+    const auto extendedStyle = static_cast<DWORD>(::GetWindowLongPtrW(window, GWL_EXSTYLE));
+    return IsTask({.own = window == bar,
+                   .visible = (style & WS_VISIBLE) != 0,
+                   .toolWindow = (extendedStyle & WS_EX_TOOLWINDOW) != 0,
+                   .owned = ::GetWindow(window, GW_OWNER) != nullptr,
+                   .titled = !title.empty(),
+                   .cloaked = cloaked});
+}
+
 } // namespace
+
+HWND TopmostTask(HWND bar) {
+    for (const HWND window : TopLevelWindows())
+        if (!::IsIconic(window) && IsTaskWindow(window, bar, TitleOf(window), fw::IsCloaked(window))) return window;
+    return nullptr;
+}
 
 std::vector<HWND> TopLevelWindows() {
     std::vector<HWND> windows;
@@ -130,14 +147,7 @@ void TaskList::Refresh(HWND bar) {
     for (const HWND window : sources_.windows()) {
         if (tasks.size() == kMostTasks) break;
         std::wstring title = TitleOf(window);
-        const auto style = static_cast<DWORD>(::GetWindowLongPtrW(window, GWL_STYLE));
-        const auto extendedStyle = static_cast<DWORD>(::GetWindowLongPtrW(window, GWL_EXSTYLE));
-        const bool isTask = IsTask({.own = window == bar,
-                                    .visible = (style & WS_VISIBLE) != 0,
-                                    .toolWindow = (extendedStyle & WS_EX_TOOLWINDOW) != 0,
-                                    .owned = ::GetWindow(window, GW_OWNER) != nullptr,
-                                    .titled = !title.empty(),
-                                    .cloaked = sources_.isCloaked(window)});
+        const bool isTask = IsTaskWindow(window, bar, title, sources_.isCloaked(window));
         Task task;
         if (isTask && reader.Read(window, std::move(title), task)) tasks.push_back(std::move(task));
     }

@@ -19,6 +19,9 @@ namespace korvane::app {
 // All windows of the desktop, the topmost first.
 [[nodiscard]] std::vector<HWND> TopLevelWindows();
 
+// The topmost window that the user could switch to and that is not minimised; null when there is none.
+[[nodiscard]] HWND TopmostTask(HWND bar);
+
 // The full path of a window's program; empty when the system does not tell.
 [[nodiscard]] std::wstring ProgramOf(HWND window);
 

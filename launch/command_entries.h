@@ -2,6 +2,8 @@
 
 #include <windows.h>
 
+#include <string>
+
 #include "launch/logic/command_entry.h"
 #include "settings/logic/profile_store.h"
 
@@ -14,5 +16,9 @@ namespace korvane::launch {
 // Starts an entry with the shell and shows its window so (SW_...); gives the shell's result, which is an error code
 // when it is 32 or less.
 [[nodiscard]] INT_PTR RunCommandEntry(const CommandEntry& entry, int showCommand = SW_SHOW);
+
+// The folder that an entry's program or document lies in, looked for on the search path when none is named; empty when
+// there is no such folder.
+[[nodiscard]] std::wstring FolderOfEntry(const CommandEntry& entry);
 
 } // namespace korvane::launch

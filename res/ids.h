@@ -7,6 +7,7 @@
 
 // Resources.
 #define IDM_BAR                     101   // three pop-ups: main menu, search menu, control panel menu
+#define IDM_LAUNCH_BUTTON           102   // one pop-up
 #define IDA_BAR                     128
 #define IDD_ABOUT                   102
 #define IDD_HISTORY_DROP_DOWN       103
@@ -49,6 +50,11 @@
 // Browsing for a path to put into the command input box.
 #define ID_BROWSE_FILE              2020
 #define ID_BROWSE_FOLDER            2021
+
+// What the menu of a launch button does with its item.
+#define ID_ITEM_OPEN                2025
+#define ID_ITEM_EDIT                2026
+#define ID_ITEM_FOLDER              2027
 
 // Built-in programs.
 #define ID_PROGRAM_FIRST            3001

@@ -95,10 +95,11 @@ data_folder() {
     die "no user folder in $1"
 }
 
-# start_display WIDTHxHEIGHT FOLDER: a virtual screen with a window manager (without one, Wine waits two seconds at every
-# window that it takes away). Sets DISPLAY and DISPLAY_PIDS; the process ids stand in FOLDER/pids too.
+# start_display WIDTHxHEIGHT FOLDER [none]: a virtual screen with a window manager (without one, Wine waits two seconds at
+# every window of the screen's that it takes away) unless none is wanted. Sets DISPLAY and DISPLAY_PIDS; the process ids
+# stand in FOLDER/pids too.
 start_display() {
-    local size=$1 folder=$2 number='' deadline=$((SECONDS + 20))
+    local size=$1 folder=$2 manager=${3:-jwm} number='' deadline=$((SECONDS + 20))
     mkdir -p "$folder"
     : >"$folder/display"
     Xvfb -displayfd 3 -screen 0 "${size}x24" -nolisten tcp -noreset 3>"$folder/display" >/dev/null 2>"$folder/xvfb.log" &
@@ -109,6 +110,7 @@ start_display() {
         sleep 0.05
     done
     export DISPLAY=:$number
+    [ "$manager" = jwm ] || return 0
     jwm -f "$KORVANE_ROOT/scripts/jwmrc" >/dev/null 2>&1 &
     DISPLAY_PIDS="$! $DISPLAY_PIDS"
     echo "$!" >>"$folder/pids"

@@ -1,16 +1,18 @@
 #!/usr/bin/env bash
-# with_desktop.sh [--screen WxH] [--arch win32|win64] [--font FILE] [--name NAME] -- COMMAND [ARGUMENT...]
+# with_desktop.sh [--screen WxH] [--arch win32|win64] [--font FILE] [--wine-desktop] [--name NAME] -- COMMAND [ARGUMENT...]
 # Runs a command on a desktop of its own: a virtual screen, a window manager and a freshly cloned Wine prefix with a
-# warm server. All of it is gone afterwards. --font adds a font to that Windows. Ends with the command's exit code.
+# warm server. All of it is gone afterwards. --font adds a font to that Windows; with --wine-desktop Wine itself plays the
+# desktop in one window of the screen, and there is no window manager. Ends with the command's exit code.
 set -euo pipefail
 . "$(dirname "${BASH_SOURCE[0]}")/lib.sh"
 
-screen=1920x1080 arch=win32 name=desktop fonts=()
+screen=1920x1080 arch=win32 name=desktop wine_desktop=no fonts=()
 while [ $# -gt 0 ]; do
     case $1 in
     --screen) screen=$2 && shift 2 ;;
     --arch) arch=$2 && shift 2 ;;
     --name) name=$2 && shift 2 ;;
+    --wine-desktop) wine_desktop=yes && shift ;;
     --font) fonts+=("$2") && shift 2 ;;
     --) shift && break ;;
     *) die "unknown option $1" ;;
@@ -56,11 +58,19 @@ clone_prefix "$template" "$desktop/prefix"
 for font in "${fonts[@]}"; do
     cp --remove-destination "$font" "$desktop/prefix/drive_c/windows/Fonts/"
 done
-start_display "$screen" "$desktop"
+[ "$wine_desktop" = no ] && manager=jwm || manager=none
+start_display "$screen" "$desktop" "$manager"
 use_wine_environment
 export WINEPREFIX="$desktop/prefix"
 unset WINEARCH
 (wine_server -p60)
+if [ "$wine_desktop" = yes ]; then
+    quietly wine reg add 'HKCU\Software\Wine\Explorer' /v Desktop /d Korvane /f
+    quietly wine reg add 'HKCU\Software\Wine\Explorer\Desktops' /v Korvane /d "$screen" /f
+    # What runs already keeps the desktop that it was started on.
+    (wine_server -k) && (wine_server -w) || true
+    (wine_server -p60)
+fi
 # Windows' desktop belongs to a process that the first program starts and that ends soon after the last one. Started and
 # held by a shell that waits for input, it costs no test its time and keeps no test's output open.
 mkfifo "$desktop/input"

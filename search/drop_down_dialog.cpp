@@ -1,5 +1,6 @@
 #include "search/drop_down_dialog.h"
 
+#include <algorithm>
 #include <memory>
 #include <utility>
 
@@ -54,7 +55,10 @@ void CDropDownDialog::OnFinalMessage() {
 
 bool CDropDownDialog::OnInitDialog(HWND) {
     MoveToBox();
-    if (CreateList()) FillList();
+    if (CreateList()) {
+        AddColumn();
+        FillList(0);
+    }
     return false;
 }
 
@@ -87,12 +91,16 @@ bool CDropDownDialog::CreateList() {
     return true;
 }
 
-void CDropDownDialog::FillList() {
+void CDropDownDialog::AddColumn() {
     // Narrow at first: a wide column could call up a horizontal scroll bar, and that in turn a vertical one.
     LVCOLUMNW column{};
     column.mask = LVCF_WIDTH;
     column.cx = 1;
     ::SendMessageW(list_, LVM_INSERTCOLUMNW, 0, reinterpret_cast<LPARAM>(&column));
+}
+
+void CDropDownDialog::FillList(int selected) {
+    ::SendMessageW(list_, LVM_DELETEALLITEMS, 0, 0);
     for (std::size_t i = 0; i < setup_.rows.size(); ++i) {
         std::wstring shown = setup_.rows[i].text.substr(0, kLongestShown);
         LVITEMW item{};
@@ -106,14 +114,51 @@ void CDropDownDialog::FillList() {
     const int width = fw::WindowRect(list_).Width() - (scrolls ? ::GetSystemMetrics(SM_CXVSCROLL) : 0);
     ::SendMessageW(list_, LVM_SETCOLUMNWIDTH, 0, MAKELPARAM(width, 0));
 
-    LVITEMW selected{};
-    selected.stateMask = selected.state = LVIS_SELECTED | LVIS_FOCUSED;
-    ::SendMessageW(list_, LVM_SETITEMSTATE, 0, reinterpret_cast<LPARAM>(&selected));
+    SelectRow(selected);
+}
+
+void CDropDownDialog::SelectRow(int row) {
+    // A row that only says that there is none to choose is not offered as chosen.
+    const bool chosen = ActionOfRow(setup_.rows[static_cast<std::size_t>(row)].number) != HistoryAction::kNone;
+    LVITEMW item{};
+    item.stateMask = LVIS_SELECTED | LVIS_FOCUSED;
+    item.state = chosen ? LVIS_SELECTED | LVIS_FOCUSED : LVIS_FOCUSED;
+    ::SendMessageW(list_, LVM_SETITEMSTATE, static_cast<WPARAM>(row), reinterpret_cast<LPARAM>(&item));
+    ::SendMessageW(list_, LVM_ENSUREVISIBLE, static_cast<WPARAM>(row), FALSE);
+}
+
+void CDropDownDialog::RemoveRow(int row) {
+    if (closing_ || row < 0 || static_cast<std::size_t>(row) >= setup_.rows.size()) return;
+    const HistoryRow& removed = setup_.rows[static_cast<std::size_t>(row)];
+    if (ActionOfRow(removed.number) != HistoryAction::kUseEntry) return;
+    setup_.rows = host_.RemoveEntry(setup_.box, removed.text);
+    FillList(std::min(row, static_cast<int>(setup_.rows.size()) - 1));
 }
 
 fw::Reply CDropDownDialog::OnActivate(UINT activation, bool) {
-    if (activation == WA_INACTIVE) Close();
+    if (activation == WA_INACTIVE) {
+        if (LostWhileOpening()) {
+            ::PostMessageW(Handle(), kTakeActivationBack, 0, 0);
+        } else {
+            Close();
+        }
+    }
     return fw::kPassOn;
+}
+
+bool CDropDownDialog::LostWhileOpening() {
+    const bool clicked = ::GetAsyncKeyState(VK_LBUTTON) < 0 || ::GetAsyncKeyState(VK_RBUTTON) < 0;
+    const auto age = std::chrono::steady_clock::now() - opened_;
+    return !clicked && !closing_ && age < setup_.openingMoment && !std::exchange(tookBack_, true);
+}
+
+void CDropDownDialog::OnTakeActivationBack(const fw::Message&) {
+    ::SetForegroundWindow(Handle());
+    if (::GetForegroundWindow() == Handle()) {
+        ::SetFocus(list_);
+    } else {
+        Close();
+    }
 }
 
 LRESULT CDropDownDialog::OnEraseBackground(HDC dc) {
@@ -156,8 +201,20 @@ void CDropDownDialog::OnRowClicked(const NMITEMACTIVATE& click) {
 }
 
 void CDropDownDialog::OnKeyDown(const NMLVKEYDOWN& key) {
-    if (key.wVKey == VK_RETURN) Choose(SelectedRow());
-    if (key.wVKey == VK_ESCAPE) Close();
+    switch (key.wVKey) {
+    case VK_RETURN:
+        Choose(SelectedRow());
+        break;
+    case VK_DELETE:
+        RemoveRow(SelectedRow());
+        break;
+    case VK_ESCAPE:
+    case VK_F4: // opened it
+        Close();
+        break;
+    default:
+        break;
+    }
 }
 
 LRESULT CDropDownDialog::OnDrawRow(NMLVCUSTOMDRAW& draw) {
@@ -181,6 +238,7 @@ void CDropDownDialog::Choose(int row) {
         ::SetWindowTextW(setup_.edit, chosen.text.c_str());
         const auto end = static_cast<WPARAM>(chosen.text.size());
         ::SendMessageW(setup_.edit, EM_SETSEL, end, static_cast<LPARAM>(end));
+        host_.OnEntryPicked(setup_.box);
     }
     Close();
 }

@@ -4,6 +4,7 @@
 
 #include <commctrl.h>
 
+#include <chrono>
 #include <vector>
 
 #include "base/geometry.h"
@@ -17,6 +18,11 @@ namespace korvane::search {
 // What the history drop-down asks of the bar. The bar must outlive it.
 class HistoryDropDownHost {
 public:
+    // An entry goes into its box; the pop-up closes next.
+    virtual void OnEntryPicked(Box box) = 0;
+    // Takes an entry out of the history and gives the rows that are left.
+    virtual std::vector<HistoryRow> RemoveEntry(Box box, const std::wstring& text) = 0;
+
     // The pop-up is gone, for whatever reason. Called once for every pop-up that was opened, and before any of the
     // others below.
     virtual void OnDropDownClosed(Box box) = 0;
@@ -36,6 +42,9 @@ struct DropDownSetup {
     Box box = Box::kCommand;
     base::Rect region; // of the box with its buttons, in screen pixels
     std::vector<HistoryRow> rows;
+    // An activation that is lost again so soon was not the user's doing: the system may still have been busy bringing
+    // the bar to the front. It is taken back once.
+    std::chrono::milliseconds openingMoment{500};
 };
 
 // The texts of the special rows, from the string table.
@@ -47,11 +56,14 @@ class CDropDownDialog final : public fw::Dialog<CDropDownDialog> {
 public:
     static constexpr UINT kTemplate = IDD_HISTORY_DROP_DOWN;
     static constexpr UINT kListId = 1000;
+    // To itself, when what took the activation away has finished.
+    static constexpr UINT kTakeActivationBack = WM_APP + 1;
 
     static constexpr auto Messages() {
         return fw::MessageMap{
             fw::On<WM_INITDIALOG>(&CDropDownDialog::OnInitDialog),
             fw::On<WM_ACTIVATE>(&CDropDownDialog::OnActivate),
+            fw::On<kTakeActivationBack>(&CDropDownDialog::OnTakeActivationBack),
             fw::On<WM_ERASEBKGND>(&CDropDownDialog::OnEraseBackground),
             fw::OnCommand<IDOK>(&CDropDownDialog::OnOk),
             fw::OnCommand<IDCANCEL>(&CDropDownDialog::OnCancel),
@@ -70,6 +82,7 @@ private:
 
     bool OnInitDialog(HWND focus);
     fw::Reply OnActivate(UINT activation, bool minimised);
+    void OnTakeActivationBack(const fw::Message& message);
     LRESULT OnEraseBackground(HDC dc);
     void OnOk();
     fw::Reply OnCancel();
@@ -79,7 +92,12 @@ private:
 
     void MoveToBox();
     [[nodiscard]] bool CreateList();
-    void FillList();
+    void AddColumn();
+    // Replaces the rows of the list and selects one of them.
+    void FillList(int selected);
+    void SelectRow(int row);
+    void RemoveRow(int row);
+    [[nodiscard]] bool LostWhileOpening();
     [[nodiscard]] int SelectedRow() const;
     void Choose(int row);
     void Close();
@@ -91,6 +109,8 @@ private:
     // What is left to be done when the pop-up is gone.
     HistoryAction pending_ = HistoryAction::kNone;
     bool closing_ = false;
+    std::chrono::steady_clock::time_point opened_ = std::chrono::steady_clock::now();
+    bool tookBack_ = false;
 };
 
 } // namespace korvane::search

@@ -27,6 +27,10 @@ void History::Add(std::wstring_view text) {
     if (entries_.size() > kMostEntries) entries_.pop_back();
 }
 
+void History::Remove(std::wstring_view text) {
+    if (const auto found = Find(text); found != entries_.end()) entries_.erase(found);
+}
+
 bool History::Save(settings::ProfileStore& store, const settings::NumberedSetting& list, int most) const {
     const int count = std::clamp(most, 0, static_cast<int>(entries_.size()));
     // The whole section goes first: entries of an earlier, longer list would otherwise follow the new ones.

@@ -20,6 +20,8 @@ public:
     // Makes the text the newest entry, wherever it stood before. If it is the newest already, its old spelling stays.
     // An empty text is not kept: saved, it would end the list for its reader.
     void Add(std::wstring_view text);
+    // Takes an entry out; one that is not there is no matter.
+    void Remove(std::wstring_view text);
     void Clear() { entries_.clear(); }
 
     [[nodiscard]] const std::vector<std::wstring>& Entries() const { return entries_; }

@@ -4,6 +4,7 @@
 #include <span>
 #include <vector>
 
+#include "tests/program/bar_driver.h"
 #include "tests/program/docked_bar.h"
 #include "tests/support/other_window.h"
 
@@ -266,8 +267,7 @@ TEST_F(AutoHide, LeavesTheForegroundToTheProgramThatHasIt) {
     const OtherWindow other{L"other"};
     ASSERT_TRUE(other.TakeForeground());
 
-    ::PostMessageW(bar, WM_HOTKEY, 1000, 0);
-    EXPECT_EQ(PlaceIn(bar, TopOf(besideTaskBar_)), TopOf(besideTaskBar_));
+    EXPECT_TRUE(SlideOut(bar, TopOf(besideTaskBar_)));
     EXPECT_EQ(::GetForegroundWindow(), other.Handle()) << "when the bar comes";
 
     // The display server may still be carrying out the move that the bar asked for.
@@ -289,6 +289,54 @@ TEST_F(AutoHide, SlidesOutToOpenAHistoryByKey) {
 
     EXPECT_EQ(PlaceIn(bar, whole_), whole_);
     EXPECT_TRUE(WaitUntil([&] { return windowsOfTheProgram() > before; }));
+}
+
+TEST_F(AutoHide, KeepsTheHistoryOpenThatRealKeysOpenedOnAHiddenBar) {
+    WriteSetting(kRecentCommands, L"ListItem01", L"newest");
+    const Program program;
+    const HWND bar = WaitForStrip(program);
+    ASSERT_NE(bar, nullptr);
+    ASSERT_TRUE(WaitUntil([&] { return ::GetForegroundWindow() == bar || (::SetForegroundWindow(bar), false); }));
+
+    PressKeys({VK_CONTROL, VK_F2});
+
+    EXPECT_EQ(PlaceIn(bar, whole_), whole_);
+    ASSERT_NE(HistoryList(program), nullptr);
+    // It is still there when all that the keys have caused is over.
+    ASSERT_TRUE(WaitUntilIdle(bar));
+    PressKeys({VK_RETURN});
+    EXPECT_TRUE(WaitUntil([&] { return TextOf(Control(bar, kCommandBox)) == L"newest"; }));
+}
+
+TEST_F(AutoHide, ComesOutForWhatIsTypedIntoIt) {
+    const Program program;
+    const HWND bar = WaitForStrip(program);
+    ASSERT_NE(bar, nullptr);
+    ASSERT_TRUE(WaitUntil([&] { return ::GetForegroundWindow() == bar || (::SetForegroundWindow(bar), false); }));
+
+    TypeText(L"a");
+
+    EXPECT_EQ(PlaceIn(bar, whole_), whole_);
+    EXPECT_TRUE(WaitUntil([&] { return TextOf(Control(bar, kCommandBox)) == L"a"; }));
+}
+
+TEST_F(AutoHide, TakesWhatIsTypedAfterItsKey) {
+    const OtherWindow other{L"other"};
+    const Program program;
+    const HWND bar = WaitForStrip(program);
+    ASSERT_NE(bar, nullptr);
+    ASSERT_TRUE(other.TakeForeground());
+
+    PressKeys({VK_MENU, VK_LWIN, 'Z'});
+    ASSERT_EQ(PlaceIn(bar, whole_), whole_);
+    ASSERT_TRUE(WaitUntil([&] { return FocusOf(bar) == Control(bar, kSearchBox) && ::GetForegroundWindow() == bar; }));
+    TypeText(L"東京");
+    EXPECT_TRUE(WaitUntil([&] { return TextOf(Control(bar, kSearchBox)) == L"東京"; }));
+    other.ForgetActivation();
+    PressKeys({VK_ESCAPE});
+    PressKeys({VK_ESCAPE});
+
+    EXPECT_TRUE(other.WaitUntilActivated());
 }
 
 TEST_F(AutoHide, StaysInUnderAFullScreenProgram) {

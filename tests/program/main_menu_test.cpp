@@ -3,6 +3,7 @@
 
 #include <array>
 
+#include "tests/program/bar_driver.h"
 #include "tests/program/program_test.h"
 #include "tests/support/clipboard.h"
 #include "tests/support/other_window.h"
@@ -17,18 +18,6 @@ constexpr UINT kNotificationIcon = WM_APP + 2;
 constexpr int kOpenMainMenu = 2010;
 constexpr int kPaint = 3002;
 constexpr int kNotepad = 3001;
-
-HWND OpenMenu() {
-    for (const HWND window : AllWindows(L"#32768"))
-        if (::IsWindowVisible(window)) return window;
-    return nullptr;
-}
-bool WaitForMenu() {
-    return WaitUntil([] { return OpenMenu() != nullptr; });
-}
-bool WaitForNoMenu() {
-    return WaitUntil([] { return OpenMenu() == nullptr; });
-}
 
 class MainMenu : public ProgramTest {
 protected:

@@ -1,6 +1,7 @@
 #include "search/drop_down_dialog.h"
 
 #include <array>
+#include <chrono>
 
 #include "framework/dpi.h"
 #include "framework/handle.h"
@@ -17,6 +18,14 @@ class LoggingHost final : public HistoryDropDownHost {
 public:
     std::string log;
 
+    std::vector<std::wstring> entries;
+
+    void OnEntryPicked(Box box) override { log += box == Box::kCommand ? "picked command;" : "picked search;"; }
+    std::vector<HistoryRow> RemoveEntry(Box box, const std::wstring& text) override {
+        log += box == Box::kCommand ? "removed command;" : "removed search;";
+        std::erase(entries, text);
+        return PlanHistoryRows(box, entries, LoadHistoryRowTexts());
+    }
     void OnDropDownClosed(Box box) override { log += box == Box::kCommand ? "closed command;" : "closed search;"; }
     void BrowseFile() override { log += "file;"; }
     void BrowseFolder() override { log += "folder;"; }
@@ -29,6 +38,7 @@ struct DropDown : WindowTest {
     CEditEx edit;
     LoggingHost bar;
     HWND popUp = nullptr;
+    std::chrono::milliseconds openingMoment{0};
 
     void SetUp() override {
         WindowTest::SetUp();
@@ -39,11 +49,13 @@ struct DropDown : WindowTest {
         if (popUp && ::IsWindow(popUp)) ::DestroyWindow(popUp);
     }
     void Open(Box box, const std::vector<std::wstring>& entries, base::Rect region = kRegion) {
+        bar.entries = entries;
         popUp = CDropDownDialog::Open(bar, {.owner = Host(),
                                             .edit = edit.Handle(),
                                             .box = box,
                                             .region = region,
-                                            .rows = PlanHistoryRows(box, entries, LoadHistoryRowTexts())});
+                                            .rows = PlanHistoryRows(box, entries, LoadHistoryRowTexts()),
+                                            .openingMoment = openingMoment});
         ASSERT_NE(popUp, nullptr);
     }
     [[nodiscard]] HWND List() const { return ::GetDlgItem(popUp, CDropDownDialog::kListId); }
@@ -170,7 +182,7 @@ TEST_F(DropDown, PutsAClickedEntryIntoTheBoxAndCloses) {
     Pump();
 
     EXPECT_FALSE(::IsWindow(popUp));
-    EXPECT_EQ(bar.log, "closed command;");
+    EXPECT_EQ(bar.log, "picked command;closed command;");
 }
 
 TEST_F(DropDown, PutsALongEntryIntoTheBoxWhole) {
@@ -235,7 +247,7 @@ TEST_F(DropDown, TakesOnlyTheFirstOfTwoClicks) {
     Pump();
 
     EXPECT_EQ(edit.Text(), L"one");
-    EXPECT_EQ(bar.log, "closed command;");
+    EXPECT_EQ(bar.log, "picked command;closed command;");
 }
 
 TEST_F(DropDown, IsWorkedByTheArrowKeysAndEnter) {
@@ -280,6 +292,97 @@ TEST_F(DropDown, ClosesWhenItIsNoLongerActive) {
 
     EXPECT_FALSE(::IsWindow(popUp));
     EXPECT_EQ(bar.log, "closed search;");
+}
+
+TEST_F(DropDown, TakesBackOnceTheActivationThatItLosesWhileOpening) {
+    openingMoment = std::chrono::hours{1};
+    Open(Box::kSearch, {L"one"});
+    Send(popUp, WM_ACTIVATE, WA_INACTIVE);
+    Pump();
+    EXPECT_TRUE(::IsWindow(popUp));
+
+    Send(popUp, WM_ACTIVATE, WA_INACTIVE);
+    Pump();
+
+    EXPECT_FALSE(::IsWindow(popUp));
+}
+
+TEST_F(DropDown, GivesUpWhenTheActivationDoesNotComeBack) {
+    openingMoment = std::chrono::hours{1};
+    Open(Box::kSearch, {L"one"});
+    // A disabled window cannot be brought to the foreground.
+    ::EnableWindow(popUp, FALSE);
+    ::SetForegroundWindow(Host());
+
+    Send(popUp, WM_ACTIVATE, WA_INACTIVE);
+    Pump();
+
+    EXPECT_FALSE(::IsWindow(popUp));
+}
+
+TEST_F(DropDown, RemovesTheSelectedEntryWithDelAndStaysOpen) {
+    Open(Box::kCommand, {L"one", L"two", L"three"});
+    Send(List(), WM_KEYDOWN, VK_DOWN);
+
+    Send(List(), WM_KEYDOWN, VK_DELETE);
+    Pump();
+
+    ASSERT_TRUE(::IsWindow(popUp));
+    EXPECT_EQ(bar.log, "removed command;");
+    EXPECT_EQ(Send(List(), LVM_GETITEMCOUNT), 5);
+    EXPECT_EQ(RowText(0), L"one");
+    EXPECT_EQ(RowText(1), L"three");
+    EXPECT_EQ(Selected(), 1);
+}
+
+TEST_F(DropDown, RemovesTheLastEntryToo) {
+    Open(Box::kSearch, {L"one"});
+
+    Send(List(), WM_KEYDOWN, VK_DELETE);
+    Pump();
+
+    ASSERT_TRUE(::IsWindow(popUp));
+    ASSERT_EQ(Send(List(), LVM_GETITEMCOUNT), 1);
+    EXPECT_EQ(RowText(0), L"現在選択できる項目はありません");
+}
+
+TEST_F(DropDown, LeavesTheSpecialRowsWhenDelIsPressedOnThem) {
+    Open(Box::kCommand, {L"one"});
+    Send(List(), WM_KEYDOWN, VK_END);
+    ASSERT_EQ(Selected(), 3);
+
+    Send(List(), WM_KEYDOWN, VK_DELETE);
+    Pump();
+
+    EXPECT_EQ(bar.log, "");
+    EXPECT_EQ(Send(List(), LVM_GETITEMCOUNT), 4);
+}
+
+TEST_F(DropDown, ShowsTheRowsAfterARemovedOneOverTheirWholeWidth) {
+    std::vector<std::wstring> entries = Entries(15);
+    Open(Box::kSearch, entries);
+    ASSERT_NE(::GetWindowLongPtrW(List(), GWL_STYLE) & WS_VSCROLL, 0);
+
+    for (int i = 0; i < 14; ++i) Send(List(), WM_KEYDOWN, VK_DELETE);
+
+    EXPECT_EQ(::GetWindowLongPtrW(List(), GWL_STYLE) & WS_VSCROLL, 0);
+    EXPECT_EQ(Send(List(), LVM_GETCOLUMNWIDTH, 0), fw::WindowRect(List()).Width());
+}
+
+TEST_F(DropDown, OffersNothingAsChosenWhenThereIsNothingToChoose) {
+    Open(Box::kSearch, {});
+
+    EXPECT_EQ(Selected(), -1);
+}
+
+TEST_F(DropDown, ClosesWithTheKeyThatOpenedIt) {
+    Open(Box::kCommand, {L"one"});
+
+    Send(List(), WM_KEYDOWN, VK_F4);
+    Pump();
+
+    EXPECT_FALSE(::IsWindow(popUp));
+    EXPECT_EQ(edit.Text(), L"typed");
 }
 
 TEST_F(DropDown, TellsTheBarWhenItGoesWithIt) {

@@ -49,6 +49,15 @@ TEST(History, MovesAnOlderEntryToTheFrontInItsNewSpelling) {
     EXPECT_THAT(history.Entries(), ElementsAre(L"Foo", L"a", L"b"));
 }
 
+TEST(History, TakesOneEntryOut) {
+    auto history = With({L"c", L"b", L"a"});
+
+    history.Remove(L"B");
+    history.Remove(L"not there");
+
+    EXPECT_THAT(history.Entries(), ElementsAre(L"a", L"c"));
+}
+
 TEST(History, KnowsCaseOnlyOfAsciiLetters) {
     auto history = With({L"ａ", L"x"});
 

@@ -1,0 +1,17 @@
+#include "app/logic/bar_drop.h"
+
+namespace korvane::app {
+
+std::wstring QuotedPaths(std::span<const std::wstring> paths) {
+    std::wstring all;
+    // No path holds a quotation mark.
+    for (const std::wstring& path : paths) all = WithAppended(std::move(all), L'"' + path + L'"');
+    return all;
+}
+
+std::wstring WithAppended(std::wstring text, const std::wstring& more) {
+    if (!text.empty() && !more.empty() && text.back() != L' ') text += L' ';
+    return text += more;
+}
+
+} // namespace korvane::app

@@ -1,0 +1,44 @@
+#include "app/logic/wheel_steps.h"
+
+#include <gtest/gtest.h>
+
+#include <array>
+
+using namespace korvane::app;
+
+TEST(WheelSteps, AreWholeOnesHoweverFineTheWheelIs) {
+    WheelSteps wheel;
+
+    EXPECT_EQ(wheel.Turn(120), 1);
+    EXPECT_EQ(wheel.Turn(-240), -2);
+    EXPECT_EQ(wheel.Turn(-40), 0);
+    EXPECT_EQ(wheel.Turn(-40), 0);
+    EXPECT_EQ(wheel.Turn(-40), -1);
+}
+
+TEST(WheelSteps, BeginAnewWhenTheWheelTurnsBack) {
+    WheelSteps wheel;
+
+    EXPECT_EQ(wheel.Turn(100), 0);
+    EXPECT_EQ(wheel.Turn(-100), 0);
+    EXPECT_EQ(wheel.Turn(-20), -1);
+}
+
+TEST(CommandAfterWheel, GoesDownTheListTowardsTheUser) {
+    constexpr std::array commands{5001U, 5003U, 5010U};
+
+    EXPECT_EQ(CommandAfterWheel(commands, 5001, -1), 5003U);
+    EXPECT_EQ(CommandAfterWheel(commands, 5010, 1), 5003U);
+    EXPECT_EQ(CommandAfterWheel(commands, 5003, 0), 5003U);
+}
+
+TEST(CommandAfterWheel, StopsAtBothEnds) {
+    constexpr std::array commands{5001U, 5003U, 5010U};
+
+    EXPECT_EQ(CommandAfterWheel(commands, 5003, -5), 5010U);
+    EXPECT_EQ(CommandAfterWheel(commands, 5003, 5), 5001U);
+}
+
+TEST(CommandAfterWheel, LeavesACommandThatIsNotListed) {
+    EXPECT_EQ(CommandAfterWheel({}, 5001, -1), 5001U);
+}
