@@ -300,8 +300,7 @@ void CMainFrame::OnSetFocus(const fw::Message&) {
 fw::Reply CMainFrame::OnActivate(UINT how, bool) {
     // The default procedure gives the focus to the frame on the way back, and the frame passes it on.
     const HWND focus = ::GetFocus();
-    const bool inBox = focus == controls_.commandBox.Handle() || focus == controls_.searchBox.Handle();
-    if (how == WA_INACTIVE && inBox) lastFocus_ = focus;
+    if (how == WA_INACTIVE && IsBox(focus)) lastFocus_ = focus;
     docking_.OnActivated(how != WA_INACTIVE);
     return fw::kPassOn;
 }
@@ -339,6 +338,7 @@ void CMainFrame::OnHotKey(int id) {
 
 bool CMainFrame::PreTranslate(const MSG& message) {
     if (message.hwnd != Handle() && !::IsChild(Handle(), message.hwnd)) return false;
+    WatchTyping(message);
 
     if (message.message == WM_KEYDOWN && message.wParam == VK_RETURN) {
         const int id = ::GetDlgCtrlID(message.hwnd);

@@ -82,6 +82,7 @@ public:
             fw::On<WM_ERASEBKGND>(&CMainFrame::OnEraseBackground),
             fw::On<WM_SETFOCUS>(&CMainFrame::OnSetFocus),
             fw::On<WM_ACTIVATE>(&CMainFrame::OnActivate),
+            fw::On<WM_ACTIVATEAPP>(&CMainFrame::OnActivateApp),
             fw::On<WM_HOTKEY>(&CMainFrame::OnHotKey),
             fw::On<WM_HELP>(&CMainFrame::OnHelp),
             fw::On<WM_DWMCOLORIZATIONCOLORCHANGED>(&CMainFrame::OnColorizationChanged),
@@ -140,6 +141,9 @@ public:
 
 private:
     bool PreTranslate(const MSG& message) override;
+    // Tells docking whether the user types, from a message to the bar or one of its controls.
+    void WatchTyping(const MSG& message);
+    [[nodiscard]] bool IsBox(HWND window) const;
 
     // DockedWindow
     [[nodiscard]] base::Rect WorkArea() const override;
@@ -155,6 +159,7 @@ private:
     void ShowControls(bool shown) override;
     [[nodiscard]] bool CursorInside() const override;
     [[nodiscard]] bool InUse() const override;
+    [[nodiscard]] bool HasKeyboard() const override;
     [[nodiscard]] WindowId WindowAbove() const override;
     bool PutBehind(WindowId window) override;
     void StartTimer(DockTimer timer, std::chrono::milliseconds period) override;
@@ -183,6 +188,7 @@ private:
     bool OnEraseBackground(HDC dc);
     void OnSetFocus(const fw::Message& message);
     fw::Reply OnActivate(UINT how, bool minimised);
+    fw::Reply OnActivateApp(const fw::Message& message);
     void OnHotKey(int id);
     void OnHelp(const fw::Message& message);
     void OnColorizationChanged();

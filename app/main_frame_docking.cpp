@@ -1,5 +1,6 @@
 // The frame as docking moves it, and the messages that make it move.
 #include "app/logic/start_checks.h"
+#include "app/logic/typing_rules.h"
 #include "app/main_frame.h"
 #include "framework/centred_message_box.h"
 #include "framework/dpi.h"
@@ -49,6 +50,13 @@ HWND InsertAfter(ZOrder order) {
         break;
     }
     return HWND_TOP;
+}
+
+// Also the menus that a box opens by itself.
+bool MenuIsOpen() {
+    GUITHREADINFO thread{};
+    thread.cbSize = sizeof thread;
+    return ::GetGUIThreadInfo(::GetCurrentThreadId(), &thread) && (thread.flags & GUI_INMENUMODE) != 0;
 }
 
 } // namespace
@@ -135,7 +143,44 @@ bool CMainFrame::CursorInside() const {
 }
 
 bool CMainFrame::InUse() const {
-    return inputBusy_ || openHistory_ || openCalendars_ > 0 || modalMessageOpen_;
+    return inputBusy_ || openHistory_ || openCalendars_ > 0 || modalMessageOpen_ || MenuIsOpen() ||
+           IsBox(::GetCapture());
+}
+
+bool CMainFrame::HasKeyboard() const {
+    return ::GetForegroundWindow() == Handle() && ::IsChild(Handle(), ::GetFocus());
+}
+
+bool CMainFrame::IsBox(HWND window) const {
+    return window && (window == controls_.commandBox.Handle() || window == controls_.searchBox.Handle());
+}
+
+void CMainFrame::WatchTyping(const MSG& message) {
+    switch (message.message) {
+    case WM_LBUTTONDOWN:
+    case WM_RBUTTONDOWN:
+        if (IsBox(message.hwnd)) docking_.OnTyping();
+        break;
+    case WM_KEYDOWN:
+        switch (StepOfKey(static_cast<unsigned>(message.wParam))) {
+        case TypingStep::kNone:
+            break;
+        case TypingStep::kBegins:
+            docking_.OnTyping();
+            break;
+        case TypingStep::kEnds:
+            docking_.OnTypingEnded();
+            break;
+        }
+        break;
+    default:
+        break;
+    }
+}
+
+fw::Reply CMainFrame::OnActivateApp(const fw::Message& message) {
+    docking_.OnProgramActivated(message.wparam != FALSE);
+    return fw::kPassOn;
 }
 
 WindowId CMainFrame::WindowAbove() const {

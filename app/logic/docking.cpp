@@ -168,11 +168,18 @@ void Docking::DockAgain() {
         DockAgainSoon();
         return;
     }
+    const bool typing = TypedInto();
     docked_ = false;
     ApplyMode(ShowAtEnd::kNo);
     window_.Wait(kPauseBetweenModes);
     docked_ = true;
-    ApplyMode(ShowAtEnd::kYes);
+    ApplyMode(ShowAtEnd::kNo);
+    if (typing && ShowOnDemand()) OnTyping();
+    window_.Show();
+}
+
+bool Docking::TypedInto() const {
+    return typing_ && window_.HasKeyboard();
 }
 
 void Docking::DockAgainSoon() {
@@ -212,6 +219,8 @@ void Docking::Slide(bool show) {
 
 void Docking::SlideIn() {
     Slide(false);
+    // Nobody types into what cannot be seen: the next time it comes out the bar goes with the mouse again.
+    typing_ = false;
     window_.ShowControls(false);
     window_.StopTimer(DockTimer::kHideCheck);
 }
@@ -228,7 +237,7 @@ void Docking::OnTimer(DockTimer timer) {
     case DockTimer::kHideCheck:
         if (!AutoHide() || hidden_) {
             window_.StopTimer(timer);
-        } else if (!window_.CursorInside() && !window_.InUse()) {
+        } else if (!window_.CursorInside() && !window_.InUse() && !TypedInto()) {
             // Otherwise the timer stays armed, so that the bar hides at the first tick after they let go of it.
             SlideIn();
         }

@@ -124,6 +124,7 @@ public:
     bool controlsShown = true;
     bool cursorInside = false;
     bool inUse = false;
+    bool hasKeyboard = false;
     app::ZOrder order = app::ZOrder::kKeep;
     app::WindowId above = 0;
     std::set<app::WindowId> windows; // those that PutBehind finds
@@ -169,6 +170,7 @@ public:
     void ShowControls(bool shown) override { controlsShown = shown; }
     bool CursorInside() const override { return cursorInside; }
     bool InUse() const override { return inUse; }
+    bool HasKeyboard() const override { return hasKeyboard; }
     app::WindowId WindowAbove() const override { return above; }
     bool PutBehind(app::WindowId window) override {
         if (!windows.contains(window)) return false;
