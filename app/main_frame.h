@@ -161,7 +161,7 @@ private:
     [[nodiscard]] bool InUse() const override;
     [[nodiscard]] bool HasKeyboard() const override;
     [[nodiscard]] WindowId WindowAbove() const override;
-    bool PutBehind(WindowId window) override;
+    bool PutBehind(WindowId window, ZOrder order) override;
     void StartTimer(DockTimer timer, std::chrono::milliseconds period) override;
     void StopTimer(DockTimer timer) override;
     [[nodiscard]] std::chrono::milliseconds Now() const override;

@@ -37,6 +37,10 @@ void ChangeStyle(HWND window, DWORD removed, DWORD added, DWORD removedExtended,
     ::SetWindowPos(window, nullptr, 0, 0, 0, 0, kInPlace | SWP_NOZORDER | SWP_FRAMECHANGED);
 }
 
+bool IsTopmost(HWND window) {
+    return (::GetWindowLongPtrW(window, GWL_EXSTYLE) & WS_EX_TOPMOST) != 0;
+}
+
 HWND InsertAfter(ZOrder order) {
     switch (order) {
     case ZOrder::kTopmost:
@@ -187,9 +191,15 @@ WindowId CMainFrame::WindowAbove() const {
     return reinterpret_cast<WindowId>(::GetWindow(Handle(), GW_HWNDPREV));
 }
 
-bool CMainFrame::PutBehind(WindowId window) {
+bool CMainFrame::PutBehind(WindowId window, ZOrder order) {
     const auto above = reinterpret_cast<HWND>(window);
-    return ::IsWindow(above) && ::SetWindowPos(Handle(), above, 0, 0, 0, 0, kInPlace);
+    if (!::IsWindow(above)) return false;
+    if (order == ZOrder::kTopmost) {
+        // At the bottom the bar has lost its being topmost, and behind another window it would not get it back.
+        if (!IsTopmost(above)) return false;
+        SetZOrder(order);
+    }
+    return ::SetWindowPos(Handle(), above, 0, 0, 0, 0, kInPlace);
 }
 
 void CMainFrame::StartTimer(DockTimer timer, std::chrono::milliseconds period) {

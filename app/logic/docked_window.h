@@ -51,8 +51,9 @@ public:
     [[nodiscard]] virtual bool HasKeyboard() const = 0;
 
     [[nodiscard]] virtual WindowId WindowAbove() const = 0;
-    // False when that window is gone.
-    virtual bool PutBehind(WindowId window) = 0;
+    // In the given order, kTopmost or kNotTopmost, just behind another window. False when that window is gone, or when
+    // no topmost window can stand there.
+    virtual bool PutBehind(WindowId window, ZOrder order) = 0;
 
     // Starting again restarts the period.
     virtual void StartTimer(DockTimer timer, std::chrono::milliseconds period) = 0;

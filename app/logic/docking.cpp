@@ -68,8 +68,6 @@ void Docking::Dock() {
     Put(ZOrder::kTopmost);
     autoHide_ = settings_.Read(keys::DesktopBarAutoHide) > 0;
     if (autoHide_) SwitchAutoHide();
-    // A full-screen program that changes the screen's resolution makes the bar dock again, but not show itself.
-    if (fullScreenAppOpen_) window_.SetZOrder(ZOrder::kBottom);
 }
 
 void Docking::Float() {
@@ -108,8 +106,13 @@ void Docking::Reserve(int thicknessPx) {
 }
 
 void Docking::Put(ZOrder order) {
+    window_.SetZOrder(Take(order));
+}
+
+ZOrder Docking::Take(ZOrder order) {
     order_ = order;
-    window_.SetZOrder(order);
+    // Under such a program the bar may still hide, or dock again because the resolution was changed.
+    return fullScreenAppOpen_ ? ZOrder::kBottom : order;
 }
 
 AutoHideResult Docking::SwitchAutoHide() {
@@ -213,8 +216,7 @@ void Docking::Slide(bool show) {
             window_.SlideTo(SlideTop(startTop, elapsed, distance), show);
     }
     // The strip lies over other windows; the bar that has come out of it deliberately does not.
-    order_ = hidden_ ? ZOrder::kTopmost : ZOrder::kNotTopmost;
-    window_.MoveTo(target, order_);
+    window_.MoveTo(target, Take(hidden_ ? ZOrder::kTopmost : ZOrder::kNotTopmost));
 }
 
 void Docking::SlideIn() {
@@ -268,8 +270,9 @@ bool Docking::ShowOnDemand() {
 }
 
 void Docking::OnShellEvent(ShellEvent event, bool opening) {
-    // The shell may report what the bar itself is just causing.
-    if (!docked_ || changing_) return;
+    if (!docked_) return;
+    // The shell may report what the bar itself is just causing. A full-screen program is none of that.
+    if (changing_ && event != ShellEvent::kFullScreenApp) return;
     switch (event) {
     case ShellEvent::kStateChange:
         DockAgain();
@@ -294,8 +297,8 @@ void Docking::OnFullScreenApp(bool opening) {
     if (opening) {
         windowAbove_ = window_.WindowAbove();
         window_.SetZOrder(ZOrder::kBottom);
-    } else if (const WindowId above = std::exchange(windowAbove_, 0); above == 0 || !window_.PutBehind(above)) {
-        // Nothing stood above it, or what did is gone.
+    } else if (const WindowId above = std::exchange(windowAbove_, 0); above == 0 || !window_.PutBehind(above, order_)) {
+        // Nothing stood above it, or what did is gone or has become a window like others, above which a strip stands.
         window_.SetZOrder(order_ == ZOrder::kTopmost ? ZOrder::kTopmost : ZOrder::kTop);
     }
 }

@@ -80,6 +80,8 @@ private:
     AutoHideResult SwitchAutoHide();
     void Reserve(int thicknessPx);
     void Put(ZOrder order);
+    // Keeps the order for later and gives the one for now: nothing stands over a full-screen program.
+    [[nodiscard]] ZOrder Take(ZOrder order);
     void DockAgainSoon();
     void Slide(bool show);
     void SlideIn();
@@ -107,7 +109,7 @@ private:
     bool changing_ = false;
     bool repositioning_ = false;
 
-    ZOrder order_ = ZOrder::kNotTopmost; // without a full-screen program
+    ZOrder order_ = ZOrder::kNotTopmost; // where no full-screen program is open
     bool fullScreenAppOpen_ = false;
     WindowId windowAbove_ = 0;
 };

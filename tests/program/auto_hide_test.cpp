@@ -28,6 +28,11 @@ protected:
     static void HideAfter(DWORD index) { WriteSetting(kSettings, L"DesktopBarAutoHideSecond", index); }
     // What a timer's message does, without the wait.
     static void Expire(HWND bar, UINT_PTR timer) { ::SendMessageW(bar, WM_TIMER, timer, 0); }
+    static bool StandsAbove(HWND window, HWND other) {
+        for (HWND below = window; below != nullptr; below = ::GetWindow(below, GW_HWNDNEXT))
+            if (below == other) return true;
+        return false;
+    }
     void TakeTheMouseAway() const { PutMouse(width_ / 2, height_ / 2); }
 
     // Starts with the strip on the screen; null when it does not come.
@@ -432,6 +437,28 @@ TEST_F(AutoHide, StaysInUnderAFullScreenProgram) {
     shell_.Notify(ABN_FULLSCREENAPP, FALSE);
     TakeTheMouseAway();
     EXPECT_TRUE(SlideOut(bar, whole_));
+}
+
+TEST_F(AutoHide, HidesUnderAFullScreenProgramAndComesBackAsItsStrip) {
+    const Program program;
+    const HWND bar = WaitForStrip(program);
+    ASSERT_NE(bar, nullptr);
+    ASSERT_TRUE(SlideOut(bar, whole_));
+    TakeTheMouseAway();
+    // Below the bar, until the bar goes to the bottom.
+    const OtherWindow other{L"full screen"};
+    ::SetWindowPos(bar, HWND_TOP, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
+    shell_.Notify(ABN_FULLSCREENAPP, TRUE);
+    ASSERT_TRUE(WaitUntil([&] { return StandsAbove(other.Handle(), bar); }));
+
+    Expire(bar, kHideCheck);
+    EXPECT_EQ(PlaceOf(bar), strip_);
+    EXPECT_TRUE(StandsAbove(other.Handle(), bar));
+
+    shell_.Notify(ABN_FULLSCREENAPP, FALSE);
+    EXPECT_TRUE(WaitUntil([&] { return StandsAbove(bar, other.Handle()); }));
+    EXPECT_NE(::GetWindowLongW(bar, GWL_EXSTYLE) & WS_EX_TOPMOST, 0);
+    EXPECT_EQ(PlaceOf(bar), strip_);
 }
 
 // ---- The controls that hide with the bar

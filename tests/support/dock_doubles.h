@@ -127,7 +127,8 @@ public:
     bool hasKeyboard = false;
     app::ZOrder order = app::ZOrder::kKeep;
     app::WindowId above = 0;
-    std::set<app::WindowId> windows; // those that PutBehind finds
+    std::set<app::WindowId> windows;      // those that PutBehind finds
+    std::set<app::WindowId> plainWindows; // those of them that are not topmost
     std::map<app::DockTimer, std::chrono::milliseconds> timers;
     std::vector<int> slideTops;
     int changes = 0;
@@ -172,8 +173,10 @@ public:
     bool InUse() const override { return inUse; }
     bool HasKeyboard() const override { return hasKeyboard; }
     app::WindowId WindowAbove() const override { return above; }
-    bool PutBehind(app::WindowId window) override {
+    bool PutBehind(app::WindowId window, app::ZOrder z) override {
         if (!windows.contains(window)) return false;
+        if (z == app::ZOrder::kTopmost && plainWindows.contains(window)) return false;
+        order = z;
         desk_.Note("behind " + std::to_string(window));
         return true;
     }

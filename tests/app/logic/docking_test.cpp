@@ -684,6 +684,54 @@ TEST_F(DockingTest, ASecondReportOfTheSameFullScreenProgramChangesNothing) {
     EXPECT_EQ(desk.TakeLog(), "bottom; behind 77; ");
 }
 
+TEST_F(DockingTest, ABarThatWasOutHidesBelowAFullScreenProgram) {
+    DockHidden();
+    docking.ShowOnDemand();
+    docking.OnShellEvent(ShellEvent::kFullScreenApp, true);
+
+    docking.OnTimer(DockTimer::kHideCheck);
+
+    EXPECT_TRUE(docking.Hidden());
+    EXPECT_EQ(window.place, (Rect{0, 0, 1280, 1}));
+    EXPECT_EQ(window.order, ZOrder::kBottom);
+}
+
+TEST_F(DockingTest, ABarThatHidBelowAFullScreenProgramIsAStripAboveAllWhenItCloses) {
+    DockHidden();
+    docking.ShowOnDemand();
+    window.above = 77;
+    window.windows = {77};
+    window.plainWindows = {77};
+    docking.OnShellEvent(ShellEvent::kFullScreenApp, true);
+    docking.OnTimer(DockTimer::kHideCheck);
+
+    docking.OnShellEvent(ShellEvent::kFullScreenApp, false);
+
+    EXPECT_EQ(window.order, ZOrder::kTopmost);
+}
+
+TEST_F(DockingTest, ABarThatStayedOutBelowAFullScreenProgramIsNotTopmostWhenItCloses) {
+    DockHidden();
+    docking.ShowOnDemand();
+    window.above = 77;
+    window.windows = {77};
+    docking.OnShellEvent(ShellEvent::kFullScreenApp, true);
+
+    docking.OnShellEvent(ShellEvent::kFullScreenApp, false);
+
+    EXPECT_EQ(window.order, ZOrder::kNotTopmost);
+    EXPECT_EQ(window.place, (Rect{0, 0, 1280, 32}));
+}
+
+TEST_F(DockingTest, HearsOfAFullScreenProgramAlsoWhileItDocks) {
+    Begin(true);
+    shell.onReserve = [&] { docking.OnShellEvent(ShellEvent::kFullScreenApp, true); };
+
+    docking.ApplyMode(ShowAtEnd::kYes);
+
+    EXPECT_EQ(window.order, ZOrder::kBottom);
+}
+
 TEST_F(DockingTest, StaysBelowAFullScreenProgramThatChangesTheScreen) {
     Dock();
     docking.OnShellEvent(ShellEvent::kFullScreenApp, true);
