@@ -204,6 +204,8 @@ private:
     void RegisterHotKeys();
     bool CreateChildren();
     void BeginDocking();
+    [[nodiscard]] bool StartsDocked() const;
+    void ShowDockedFirst();
 
     // Applying settings.
     void ReadColours();

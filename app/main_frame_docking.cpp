@@ -67,10 +67,27 @@ bool MenuIsOpen() {
 
 bool CMainFrame::CreateFrame() {
     const std::wstring title = fw::LoadText(IDS_PRODUCT);
-    if (Create({.text = title.c_str(), .style = kFloatingStyle, .extendedStyle = kFloatingExtendedStyle})) return true;
+    // Before it owns its tooltips: a window that others already stand above by right does not always become topmost.
+    const DWORD order = StartsDocked() ? WS_EX_TOPMOST : 0;
+    if (Create({.text = title.c_str(), .style = kFloatingStyle, .extendedStyle = kFloatingExtendedStyle | order}))
+        return true;
     // What failed inside the creation says more than what Windows leaves behind after it.
     if (creationError_ != ERROR_SUCCESS) ::SetLastError(creationError_);
     return false;
+}
+
+bool CMainFrame::StartsDocked() const {
+    return settings_.Read(keys::SaveWindowPlacement) == 1 && settings_.Read(keys::DefaultDesktopBarMode) == 1;
+}
+
+void CMainFrame::ShowDockedFirst() {
+    const base::Rect place = Place();
+    // A docked bar is neither minimised nor maximised, whatever its shortcut asks for. The shortcut is asked all the
+    // same: otherwise its answer would become of the bar when it next docks or floats.
+    ::ShowWindow(Handle(), SW_SHOWDEFAULT);
+    if (::IsIconic(Handle()) || ::IsZoomed(Handle())) ::ShowWindow(Handle(), SW_RESTORE);
+    ::SetWindowPos(Handle(), nullptr, place.left, place.top, place.Width(), place.Height(),
+                   SWP_SHOWWINDOW | SWP_NOZORDER);
 }
 
 base::Size CMainFrame::Borders() const {
