@@ -167,11 +167,6 @@ bool BarKeyboard::IsForEyes(const MSG& message) const {
            !Held(VK_CONTROL) && (IsBox(message.hwnd) || message.wParam == VK_F6);
 }
 
-bool BarKeyboard::OnButton() const {
-    const HWND focus = ::GetFocus();
-    return focus && focus != bar_ && ::GetParent(focus) == bar_ && !IsBox(focus);
-}
-
 void BarKeyboard::Post(UINT command) const {
     ::PostMessageW(bar_, WM_COMMAND, command, 0);
 }

@@ -49,9 +49,6 @@ public:
     // The user types, or walks: what they do must be seen.
     [[nodiscard]] bool IsForEyes(const MSG& message) const;
 
-    // The keyboard is on one of the bar's buttons.
-    [[nodiscard]] bool OnButton() const;
-
 private:
     [[nodiscard]] search::CEditEx& BoxOf(HWND window) const;
     [[nodiscard]] bool OnWalkKey(const MSG& message);

@@ -51,9 +51,7 @@ CMainFrame::~CMainFrame() {
 
 void CMainFrame::ShowFirst(int showCommand) {
     if (docking_.Docked()) {
-        // A docked bar is neither minimised nor maximised, whatever its shortcut asks for; and the first ShowWindow of
-        // a process would ask the shortcut.
-        ::SetWindowPos(Handle(), nullptr, 0, 0, 0, 0, SWP_SHOWWINDOW | SWP_NOMOVE | SWP_NOSIZE | SWP_NOZORDER);
+        ShowDockedFirst();
     } else {
         ::ShowWindow(Handle(), showCommand);
     }
@@ -134,15 +132,13 @@ void CMainFrame::BeginDocking() {
     const auto workAreas = fw::WorkAreas();
     const base::Rect primary = workAreas.empty() ? base::Rect{} : workAreas.front();
     base::Rect floating = DefaultFloatingRect(primary, Borders(), fw::Scale());
-    bool docked = false;
     if (settings_.Read(keys::SaveWindowPlacement) == 1) {
-        docked = settings_.Read(keys::DefaultDesktopBarMode) == 1;
         if (const auto bytes = settings_.Read(keys::WindowPosRect))
             if (const auto saved = settings::DecodeRect(*bytes))
                 floating = settings::ReachableRect(*saved, workAreas, fw::Scale()).value_or(floating);
     }
     shell_.SetWindow(Handle());
-    docking_.Begin({.windows8OrLater = fw::IsWindowsAtLeast(fw::kWindows8), .scale = fw::Scale()}, docked,
+    docking_.Begin({.windows8OrLater = fw::IsWindowsAtLeast(fw::kWindows8), .scale = fw::Scale()}, StartsDocked(),
                    WithBarHeight(floating, Borders(), fw::Scale()));
 }
 
@@ -307,7 +303,9 @@ fw::Reply CMainFrame::OnActivate(UINT how, bool) {
 }
 
 fw::Reply CMainFrame::OnActivateApp(const fw::Message& message) {
-    if (message.wparam == FALSE) keyboard_.ForgetOrigin();
+    const bool active = message.wparam != FALSE;
+    if (!active) keyboard_.ForgetOrigin();
+    docking_.OnProgramActivated(active);
     return fw::kPassOn;
 }
 
@@ -352,6 +350,7 @@ void CMainFrame::OnHotKey(int id) {
 
 bool CMainFrame::PreTranslate(const MSG& message) {
     if (message.hwnd != Handle() && !::IsChild(Handle(), message.hwnd)) return false;
+    WatchTyping(message);
 
     if (keyboard_.IsForEyes(message)) docking_.ShowOnDemand();
     const bool enterRuns = message.wParam == VK_RETURN && settings_.Read(keys::EnableEnterEvent) == 1;

@@ -149,6 +149,9 @@ public:
 
 private:
     bool PreTranslate(const MSG& message) override;
+    // Tells docking whether the user types, from a message to the bar or one of its controls.
+    void WatchTyping(const MSG& message);
+    [[nodiscard]] bool IsBox(HWND window) const;
 
     // DockedWindow
     [[nodiscard]] base::Rect WorkArea() const override;
@@ -164,8 +167,9 @@ private:
     void ShowControls(bool shown) override;
     [[nodiscard]] bool CursorInside() const override;
     [[nodiscard]] bool InUse() const override;
+    [[nodiscard]] bool HasKeyboard() const override;
     [[nodiscard]] WindowId WindowAbove() const override;
-    bool PutBehind(WindowId window) override;
+    bool PutBehind(WindowId window, ZOrder order) override;
     void StartTimer(DockTimer timer, std::chrono::milliseconds period) override;
     void StopTimer(DockTimer timer) override;
     [[nodiscard]] std::chrono::milliseconds Now() const override;
@@ -210,6 +214,8 @@ private:
     void RegisterHotKeys();
     bool CreateChildren();
     void BeginDocking();
+    [[nodiscard]] bool StartsDocked() const;
+    void ShowDockedFirst();
 
     // Applying settings.
     void ReadColours();

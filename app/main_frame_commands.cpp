@@ -113,6 +113,7 @@ void CMainFrame::RunTypedCommand() {
     if (text.empty()) return;
     const search::RunOutcome outcome = search::RunTypedCommand(text, starter_);
     if (outcome.Started()) {
+        docking_.OnTypingEnded();
         histories_.Of(Box::kCommand).Add(text);
     } else {
         // The next try begins with what failed, or replaces it.
@@ -141,7 +142,11 @@ void CMainFrame::RunProgram(UINT command) {
 
 void CMainFrame::ReportStart(INT_PTR result, fw::Centring centring) {
     // The shell's result is shown as a system error code on purpose, also where the two numberings differ.
-    if (const DWORD error = search::ErrorOfShell(static_cast<int>(result))) ReportError(error, centring);
+    if (const DWORD error = search::ErrorOfShell(static_cast<int>(result))) {
+        ReportError(error, centring);
+    } else {
+        docking_.OnTypingEnded();
+    }
 }
 
 void CMainFrame::ToggleClipboardMonitor() {
@@ -186,6 +191,7 @@ std::vector<search::HistoryRow> CMainFrame::RemoveEntry(Box box, const std::wstr
 
 void CMainFrame::OnDropDownClosed(Box box) {
     openHistory_.reset();
+    docking_.OnTyping();
     HistoryButton(box).SetMenuShown(false);
     keyboard_.Return();
 }
@@ -236,6 +242,7 @@ void CMainFrame::EnterPickedPath(const std::optional<std::wstring>& path) {
     const auto entry = text.ends_with(L' ') ? search::PathEntry::kAppend : search::PathEntry::kReplace;
     box.SetText(search::WithPickedPath(text, *path, entry));
     keyboard_.GoTo(Box::kCommand);
+    docking_.OnTyping();
 }
 
 void CMainFrame::ClearHistory(Box box) {
@@ -321,6 +328,7 @@ void CMainFrame::ExecuteSearchCommand() {
         if (std::holds_alternative<search::SearchStarted>(outcome)) controls_.searchBox.SetText(text);
     }
     if (std::holds_alternative<search::SearchStarted>(outcome)) {
+        docking_.OnTypingEnded();
         histories_.Of(Box::kSearch).Add(text);
     } else if (const auto* const failed = std::get_if<search::SearchFailed>(&outcome)) {
         keyboard_.GoToAllOf(Box::kSearch);

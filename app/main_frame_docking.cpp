@@ -1,5 +1,6 @@
 // The frame as docking moves it, and the messages that make it move.
 #include "app/logic/start_checks.h"
+#include "app/logic/typing_rules.h"
 #include "app/main_frame.h"
 #include "framework/centred_message_box.h"
 #include "framework/dpi.h"
@@ -36,6 +37,10 @@ void ChangeStyle(HWND window, DWORD removed, DWORD added, DWORD removedExtended,
     ::SetWindowPos(window, nullptr, 0, 0, 0, 0, kInPlace | SWP_NOZORDER | SWP_FRAMECHANGED);
 }
 
+bool IsTopmost(HWND window) {
+    return (::GetWindowLongPtrW(window, GWL_EXSTYLE) & WS_EX_TOPMOST) != 0;
+}
+
 HWND InsertAfter(ZOrder order) {
     switch (order) {
     case ZOrder::kTopmost:
@@ -51,14 +56,38 @@ HWND InsertAfter(ZOrder order) {
     return HWND_TOP;
 }
 
+// Also the menus that a box opens by itself.
+bool MenuIsOpen() {
+    GUITHREADINFO thread{};
+    thread.cbSize = sizeof thread;
+    return ::GetGUIThreadInfo(::GetCurrentThreadId(), &thread) && (thread.flags & GUI_INMENUMODE) != 0;
+}
+
 } // namespace
 
 bool CMainFrame::CreateFrame() {
     const std::wstring title = fw::LoadText(IDS_PRODUCT);
-    if (Create({.text = title.c_str(), .style = kFloatingStyle, .extendedStyle = kFloatingExtendedStyle})) return true;
+    // Before it owns its tooltips: a window that others already stand above by right does not always become topmost.
+    const DWORD order = StartsDocked() ? WS_EX_TOPMOST : 0;
+    if (Create({.text = title.c_str(), .style = kFloatingStyle, .extendedStyle = kFloatingExtendedStyle | order}))
+        return true;
     // What failed inside the creation says more than what Windows leaves behind after it.
     if (creationError_ != ERROR_SUCCESS) ::SetLastError(creationError_);
     return false;
+}
+
+bool CMainFrame::StartsDocked() const {
+    return settings_.Read(keys::SaveWindowPlacement) == 1 && settings_.Read(keys::DefaultDesktopBarMode) == 1;
+}
+
+void CMainFrame::ShowDockedFirst() {
+    const base::Rect place = Place();
+    // A docked bar is neither minimised nor maximised, whatever its shortcut asks for. The shortcut is asked all the
+    // same: otherwise its answer would become of the bar when it next docks or floats.
+    ::ShowWindow(Handle(), SW_SHOWDEFAULT);
+    if (::IsIconic(Handle()) || ::IsZoomed(Handle())) ::ShowWindow(Handle(), SW_RESTORE);
+    ::SetWindowPos(Handle(), nullptr, place.left, place.top, place.Width(), place.Height(),
+                   SWP_SHOWWINDOW | SWP_NOZORDER);
 }
 
 base::Size CMainFrame::Borders() const {
@@ -135,17 +164,54 @@ bool CMainFrame::CursorInside() const {
 }
 
 bool CMainFrame::InUse() const {
-    return inputBusy_ || openHistory_ || openCalendars_ > 0 || modalMessageOpen_ || drop_.DraggedOver() ||
-           keyboard_.OnButton();
+    return inputBusy_ || openHistory_ || openCalendars_ > 0 || modalMessageOpen_ || MenuIsOpen() ||
+           IsBox(::GetCapture()) || drop_.DraggedOver();
+}
+
+bool CMainFrame::HasKeyboard() const {
+    return ::GetForegroundWindow() == Handle() && ::IsChild(Handle(), ::GetFocus());
+}
+
+bool CMainFrame::IsBox(HWND window) const {
+    return window && (window == controls_.commandBox.Handle() || window == controls_.searchBox.Handle());
+}
+
+void CMainFrame::WatchTyping(const MSG& message) {
+    switch (message.message) {
+    case WM_LBUTTONDOWN:
+    case WM_RBUTTONDOWN:
+        if (IsBox(message.hwnd)) docking_.OnTyping();
+        break;
+    case WM_KEYDOWN:
+        switch (StepOfKey(static_cast<unsigned>(message.wParam))) {
+        case TypingStep::kNone:
+            break;
+        case TypingStep::kBegins:
+            docking_.OnTyping();
+            break;
+        case TypingStep::kEnds:
+            docking_.OnTypingEnded();
+            break;
+        }
+        break;
+    default:
+        break;
+    }
 }
 
 WindowId CMainFrame::WindowAbove() const {
     return reinterpret_cast<WindowId>(::GetWindow(Handle(), GW_HWNDPREV));
 }
 
-bool CMainFrame::PutBehind(WindowId window) {
+bool CMainFrame::PutBehind(WindowId window, ZOrder order) {
     const auto above = reinterpret_cast<HWND>(window);
-    return ::IsWindow(above) && ::SetWindowPos(Handle(), above, 0, 0, 0, 0, kInPlace);
+    if (!::IsWindow(above)) return false;
+    if (order == ZOrder::kTopmost) {
+        // At the bottom the bar has lost its being topmost, and behind another window it would not get it back.
+        if (!IsTopmost(above)) return false;
+        SetZOrder(order);
+    }
+    return ::SetWindowPos(Handle(), above, 0, 0, 0, 0, kInPlace);
 }
 
 void CMainFrame::StartTimer(DockTimer timer, std::chrono::milliseconds period) {
@@ -218,6 +284,7 @@ void CMainFrame::SummonBar() {
     if (inputBusy_) ::EndMenu();
     ShowBarUnderCursor();
     keyboard_.Summon(search::Box::kSearch);
+    docking_.OnTyping();
 }
 
 void CMainFrame::ToggleAutoHide() {

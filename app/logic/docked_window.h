@@ -45,12 +45,15 @@ public:
     virtual void ShowControls(bool shown) = 0;
 
     [[nodiscard]] virtual bool CursorInside() const = 0;
-    // A menu, a drop-down or a message box of the bar is open.
+    // A menu, a drop-down or a message box of the bar is open, or a selection is being dragged out of a box.
     [[nodiscard]] virtual bool InUse() const = 0;
+    // What is typed goes to the bar: it is in front, and one of its controls has the keyboard.
+    [[nodiscard]] virtual bool HasKeyboard() const = 0;
 
     [[nodiscard]] virtual WindowId WindowAbove() const = 0;
-    // False when that window is gone.
-    virtual bool PutBehind(WindowId window) = 0;
+    // In the given order, kTopmost or kNotTopmost, just behind another window. False when that window is gone, or when
+    // no topmost window can stand there.
+    virtual bool PutBehind(WindowId window, ZOrder order) = 0;
 
     // Starting again restarts the period.
     virtual void StartTimer(DockTimer timer, std::chrono::milliseconds period) = 0;

@@ -68,8 +68,6 @@ void Docking::Dock() {
     Put(ZOrder::kTopmost);
     autoHide_ = settings_.Read(keys::DesktopBarAutoHide) > 0;
     if (autoHide_) SwitchAutoHide();
-    // A full-screen program that changes the screen's resolution makes the bar dock again, but not show itself.
-    if (fullScreenAppOpen_) window_.SetZOrder(ZOrder::kBottom);
 }
 
 void Docking::Float() {
@@ -108,8 +106,13 @@ void Docking::Reserve(int thicknessPx) {
 }
 
 void Docking::Put(ZOrder order) {
+    window_.SetZOrder(Take(order));
+}
+
+ZOrder Docking::Take(ZOrder order) {
     order_ = order;
-    window_.SetZOrder(order);
+    // Under such a program the bar may still hide, or dock again because the resolution was changed.
+    return fullScreenAppOpen_ ? ZOrder::kBottom : order;
 }
 
 AutoHideResult Docking::SwitchAutoHide() {
@@ -168,11 +171,18 @@ void Docking::DockAgain() {
         DockAgainSoon();
         return;
     }
+    const bool typing = TypedInto();
     docked_ = false;
     ApplyMode(ShowAtEnd::kNo);
     window_.Wait(kPauseBetweenModes);
     docked_ = true;
-    ApplyMode(ShowAtEnd::kYes);
+    ApplyMode(ShowAtEnd::kNo);
+    if (typing && ShowOnDemand()) OnTyping();
+    window_.Show();
+}
+
+bool Docking::TypedInto() const {
+    return typing_ && window_.HasKeyboard();
 }
 
 void Docking::DockAgainSoon() {
@@ -206,12 +216,13 @@ void Docking::Slide(bool show) {
             window_.SlideTo(SlideTop(startTop, elapsed, distance), show);
     }
     // The strip lies over other windows; the bar that has come out of it deliberately does not.
-    order_ = hidden_ ? ZOrder::kTopmost : ZOrder::kNotTopmost;
-    window_.MoveTo(target, order_);
+    window_.MoveTo(target, Take(hidden_ ? ZOrder::kTopmost : ZOrder::kNotTopmost));
 }
 
 void Docking::SlideIn() {
     Slide(false);
+    // Nobody types into what cannot be seen: the next time it comes out the bar goes with the mouse again.
+    typing_ = false;
     window_.ShowControls(false);
     window_.StopTimer(DockTimer::kHideCheck);
 }
@@ -228,7 +239,7 @@ void Docking::OnTimer(DockTimer timer) {
     case DockTimer::kHideCheck:
         if (!AutoHide() || hidden_) {
             window_.StopTimer(timer);
-        } else if (!window_.CursorInside() && !window_.InUse()) {
+        } else if (!window_.CursorInside() && !window_.InUse() && !TypedInto()) {
             // Otherwise the timer stays armed, so that the bar hides at the first tick after they let go of it.
             SlideIn();
         }
@@ -259,8 +270,9 @@ bool Docking::ShowOnDemand() {
 }
 
 void Docking::OnShellEvent(ShellEvent event, bool opening) {
-    // The shell may report what the bar itself is just causing.
-    if (!docked_ || changing_) return;
+    if (!docked_) return;
+    // The shell may report what the bar itself is just causing. A full-screen program is none of that.
+    if (changing_ && event != ShellEvent::kFullScreenApp) return;
     switch (event) {
     case ShellEvent::kStateChange:
         DockAgain();
@@ -285,8 +297,8 @@ void Docking::OnFullScreenApp(bool opening) {
     if (opening) {
         windowAbove_ = window_.WindowAbove();
         window_.SetZOrder(ZOrder::kBottom);
-    } else if (const WindowId above = std::exchange(windowAbove_, 0); above == 0 || !window_.PutBehind(above)) {
-        // Nothing stood above it, or what did is gone.
+    } else if (const WindowId above = std::exchange(windowAbove_, 0); above == 0 || !window_.PutBehind(above, order_)) {
+        // Nothing stood above it, or what did is gone or has become a window like others, above which a strip stands.
         window_.SetZOrder(order_ == ZOrder::kTopmost ? ZOrder::kTopmost : ZOrder::kTop);
     }
 }

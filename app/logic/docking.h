@@ -53,6 +53,13 @@ public:
     void OnShellEvent(ShellEvent event, bool opening);
     void OnPlaceChanged();
     void OnActivated(bool active);
+    // The program came to the front or left it. With the front a bar that is out has got the keyboard, too.
+    void OnProgramActivated(bool active) { typing_ = active && !hidden_; }
+    // The user types into the bar or has just put the caret into a box: as long as the bar keeps the keyboard it stays
+    // out.
+    void OnTyping() { typing_ = true; }
+    // The user typed what there was to type: Esc, a start, a search. The bar may hide until there is more.
+    void OnTypingEnded() { typing_ = false; }
     // The floating window was moved or sized.
     void OnFloatingRect(const base::Rect& place);
 
@@ -73,10 +80,13 @@ private:
     AutoHideResult SwitchAutoHide();
     void Reserve(int thicknessPx);
     void Put(ZOrder order);
+    // Keeps the order for later and gives the one for now: nothing stands over a full-screen program.
+    [[nodiscard]] ZOrder Take(ZOrder order);
     void DockAgainSoon();
     void Slide(bool show);
     void SlideIn();
     void SlideOut();
+    [[nodiscard]] bool TypedInto() const;
     void OnFullScreenApp(bool opening);
 
     Shell& shell_;
@@ -87,6 +97,7 @@ private:
     bool docked_ = false;
     bool autoHide_ = false;
     bool hidden_ = false;
+    bool typing_ = false; // since the bar was last hidden
     Edge edge_ = Edge::kTop;
     int hiddenThicknessPx_ = kHiddenThicknessPx;
     base::Rect floatingRect_;
@@ -98,7 +109,7 @@ private:
     bool changing_ = false;
     bool repositioning_ = false;
 
-    ZOrder order_ = ZOrder::kNotTopmost; // without a full-screen program
+    ZOrder order_ = ZOrder::kNotTopmost; // where no full-screen program is open
     bool fullScreenAppOpen_ = false;
     WindowId windowAbove_ = 0;
 };

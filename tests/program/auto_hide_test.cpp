@@ -29,6 +29,11 @@ protected:
     static void HideAfter(DWORD index) { WriteSetting(kSettings, L"DesktopBarAutoHideSecond", index); }
     // What a timer's message does, without the wait.
     static void Expire(HWND bar, UINT_PTR timer) { ::SendMessageW(bar, WM_TIMER, timer, 0); }
+    static bool StandsAbove(HWND window, HWND other) {
+        for (HWND below = window; below != nullptr; below = ::GetWindow(below, GW_HWNDNEXT))
+            if (below == other) return true;
+        return false;
+    }
     void TakeTheMouseAway() const { PutMouse(width_ / 2, height_ / 2); }
 
     // Starts with the strip on the screen; null when it does not come.
@@ -237,6 +242,133 @@ TEST_F(AutoHide, StaysOutWhileAMessageBoxAsks) {
     EXPECT_EQ(PlaceOf(bar), strip_);
 }
 
+// ---- Typing
+
+class TypingIntoTheBar : public AutoHide {
+protected:
+    // Starts, slides out under the mouse, and gives the command box the caret with a click; null when that fails.
+    HWND WaitForBarWithCaret(const Program& program) const {
+        const HWND bar = WaitForStrip(program);
+        if (bar == nullptr || !SlideOut(bar, whole_)) return nullptr;
+        return ClickIntoFocus(Control(bar, kCommandBox)) && WaitUntilIdle(bar) ? bar : nullptr;
+    }
+    // What the hide check makes of the bar with the mouse elsewhere.
+    std::string PlaceAfterHideCheck(HWND bar) const {
+        TakeTheMouseAway();
+        WaitUntilIdle(bar);
+        Expire(bar, kHideCheck);
+        return PlaceOf(bar);
+    }
+};
+
+TEST_F(TypingIntoTheBar, KeepsItOut) {
+    const Program program;
+    const HWND bar = WaitForBarWithCaret(program);
+    ASSERT_NE(bar, nullptr);
+    EXPECT_EQ(PlaceAfterHideCheck(bar), whole_) << "with the caret in a box";
+
+    PressKeys({'A'});
+    ASSERT_TRUE(WaitUntil([&] { return TextOf(Control(bar, kCommandBox)) == L"a"; }));
+
+    EXPECT_EQ(PlaceAfterHideCheck(bar), whole_) << "with a letter in it";
+}
+
+TEST_F(TypingIntoTheBar, KeepsItOutAgainAfterEsc) {
+    const Program program;
+    const HWND bar = WaitForBarWithCaret(program);
+    ASSERT_NE(bar, nullptr);
+
+    PressKeys({VK_ESCAPE});
+    TypeText(L"a");
+    ASSERT_TRUE(WaitUntil([&] { return TextOf(Control(bar, kCommandBox)) == L"a"; }));
+
+    EXPECT_EQ(PlaceAfterHideCheck(bar), whole_);
+}
+
+TEST_F(TypingIntoTheBar, EndsWithEsc) {
+    const Program program;
+    const HWND bar = WaitForBarWithCaret(program);
+    ASSERT_NE(bar, nullptr);
+    TakeTheMouseAway();
+
+    PressKeys({VK_ESCAPE});
+
+    EXPECT_TRUE(WaitUntil([&] { return PlaceAfterHideCheck(bar) == strip_; }));
+}
+
+TEST_F(TypingIntoTheBar, EndsWithASearch) {
+    WriteSetting(kSettings, L"EnableEnterEvent", 1);
+    const Program program;
+    const HWND bar = WaitForBarWithCaret(program);
+    ASSERT_NE(bar, nullptr);
+    ASSERT_TRUE(TypeInto(Control(bar, kSearchBox), L"abc"));
+    ASSERT_EQ(PlaceAfterHideCheck(bar), whole_);
+
+    PressKeys({VK_RETURN});
+
+    EXPECT_TRUE(WaitUntil([&] { return PlaceAfterHideCheck(bar) == strip_; }));
+}
+
+TEST_F(TypingIntoTheBar, EndsWithAStart) {
+    WriteSetting(kSettings, L"EnableEnterEvent", 1);
+    const Program program;
+    const HWND bar = WaitForBarWithCaret(program);
+    ASSERT_NE(bar, nullptr);
+    ASSERT_TRUE(TypeInto(Control(bar, kCommandBox), L"http://start.example/"));
+    ASSERT_EQ(PlaceAfterHideCheck(bar), whole_);
+
+    PressKeys({VK_RETURN});
+
+    EXPECT_TRUE(WaitUntil([&] { return PlaceAfterHideCheck(bar) == strip_; }));
+}
+
+TEST_F(TypingIntoTheBar, EndsWhenAnotherWindowComesToTheFront) {
+    const OtherWindow other{L"other"};
+    const Program program;
+    const HWND bar = WaitForBarWithCaret(program);
+    ASSERT_NE(bar, nullptr);
+    ASSERT_EQ(PlaceAfterHideCheck(bar), whole_);
+
+    ASSERT_TRUE(other.TakeForeground());
+
+    EXPECT_TRUE(WaitUntil([&] { return PlaceAfterHideCheck(bar) == strip_; }));
+}
+
+// Nobody types here: the bar was brought out by the mouse.
+TEST_F(TypingIntoTheBar, IsNotNeededWhileABoxShowsItsOwnMenu) {
+    const Program program;
+    const HWND bar = WaitForStrip(program);
+    ASSERT_NE(bar, nullptr);
+    ASSERT_TRUE(SlideOut(bar, whole_));
+    TakeTheMouseAway();
+    const HWND box = Control(bar, kCommandBox);
+    ::PostMessageW(box, WM_CONTEXTMENU, reinterpret_cast<WPARAM>(box), -1);
+    ASSERT_TRUE(WaitUntil([] { return !AllWindows(L"#32768").empty(); }));
+
+    Expire(bar, kHideCheck);
+    EXPECT_EQ(PlaceOf(bar), whole_);
+
+    ::PostMessageW(box, WM_CANCELMODE, 0, 0);
+    ASSERT_TRUE(WaitUntil([] { return AllWindows(L"#32768").empty(); }));
+    EXPECT_EQ(PlaceAfterHideCheck(bar), strip_);
+}
+
+TEST_F(TypingIntoTheBar, IsNotNeededWhileASelectionIsDraggedOutOfABox) {
+    const Program program;
+    const HWND bar = WaitForStrip(program);
+    ASSERT_NE(bar, nullptr);
+    ASSERT_TRUE(SlideOut(bar, whole_));
+    TakeTheMouseAway();
+    const HWND box = Control(bar, kCommandBox);
+    ::SendMessageW(box, WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(4, 4));
+
+    Expire(bar, kHideCheck);
+    EXPECT_EQ(PlaceOf(bar), whole_);
+
+    ::SendMessageW(box, WM_LBUTTONUP, 0, MAKELPARAM(4, 4));
+    EXPECT_EQ(PlaceAfterHideCheck(bar), strip_);
+}
+
 TEST_F(AutoHide, SlidesOutUnderTheCursorWithItsKey) {
     const Program program;
     const HWND bar = WaitForStrip(program);
@@ -353,6 +485,28 @@ TEST_F(AutoHide, StaysInUnderAFullScreenProgram) {
     shell_.Notify(ABN_FULLSCREENAPP, FALSE);
     TakeTheMouseAway();
     EXPECT_TRUE(SlideOut(bar, whole_));
+}
+
+TEST_F(AutoHide, HidesUnderAFullScreenProgramAndComesBackAsItsStrip) {
+    const Program program;
+    const HWND bar = WaitForStrip(program);
+    ASSERT_NE(bar, nullptr);
+    ASSERT_TRUE(SlideOut(bar, whole_));
+    TakeTheMouseAway();
+    // Below the bar, until the bar goes to the bottom.
+    const OtherWindow other{L"full screen"};
+    ::SetWindowPos(bar, HWND_TOP, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
+    shell_.Notify(ABN_FULLSCREENAPP, TRUE);
+    ASSERT_TRUE(WaitUntil([&] { return StandsAbove(other.Handle(), bar); }));
+
+    Expire(bar, kHideCheck);
+    EXPECT_EQ(PlaceOf(bar), strip_);
+    EXPECT_TRUE(StandsAbove(other.Handle(), bar));
+
+    shell_.Notify(ABN_FULLSCREENAPP, FALSE);
+    EXPECT_TRUE(WaitUntil([&] { return StandsAbove(bar, other.Handle()); }));
+    EXPECT_NE(::GetWindowLongW(bar, GWL_EXSTYLE) & WS_EX_TOPMOST, 0);
+    EXPECT_EQ(PlaceOf(bar), strip_);
 }
 
 // ---- The controls that hide with the bar

@@ -45,6 +45,20 @@ TEST_F(DockedBar, IsABareToolWindow) {
     EXPECT_EQ(extended & (WS_EX_TOOLWINDOW | WS_EX_APPWINDOW), WS_EX_TOOLWINDOW);
 }
 
+TEST_F(DockedBar, IsTopmostFromTheStart) {
+    for (const DWORD hides : {DWORD{0}, DWORD{1}}) {
+        WriteSetting(kSettings, L"DesktopBarAutoHide", hides);
+        const Program program;
+        const HWND bar = program.WaitForBar();
+        ASSERT_NE(bar, nullptr) << hides;
+
+        EXPECT_TRUE(WaitUntil([&] { return (::GetWindowLongW(bar, GWL_EXSTYLE) & WS_EX_TOPMOST) != 0; })) << hides;
+
+        Close(bar);
+        EXPECT_EQ(program.WaitForExit(), 0U) << hides;
+    }
+}
+
 TEST_F(DockedBar, StandsAboveTheTaskBarAtTheBottom) {
     DockAtTheBottom();
     const Program program;

@@ -124,9 +124,11 @@ public:
     bool controlsShown = true;
     bool cursorInside = false;
     bool inUse = false;
+    bool hasKeyboard = false;
     app::ZOrder order = app::ZOrder::kKeep;
     app::WindowId above = 0;
-    std::set<app::WindowId> windows; // those that PutBehind finds
+    std::set<app::WindowId> windows;      // those that PutBehind finds
+    std::set<app::WindowId> plainWindows; // those of them that are not topmost
     std::map<app::DockTimer, std::chrono::milliseconds> timers;
     std::vector<int> slideTops;
     int changes = 0;
@@ -169,9 +171,12 @@ public:
     void ShowControls(bool shown) override { controlsShown = shown; }
     bool CursorInside() const override { return cursorInside; }
     bool InUse() const override { return inUse; }
+    bool HasKeyboard() const override { return hasKeyboard; }
     app::WindowId WindowAbove() const override { return above; }
-    bool PutBehind(app::WindowId window) override {
+    bool PutBehind(app::WindowId window, app::ZOrder z) override {
         if (!windows.contains(window)) return false;
+        if (z == app::ZOrder::kTopmost && plainWindows.contains(window)) return false;
+        order = z;
         desk_.Note("behind " + std::to_string(window));
         return true;
     }

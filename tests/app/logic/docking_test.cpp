@@ -389,6 +389,119 @@ TEST_F(DockingTest, StaysOutWhileAMenuOrABoxOfItIsOpen) {
     EXPECT_TRUE(window.timers.contains(DockTimer::kHideCheck));
 }
 
+// Typing.
+
+TEST_F(DockingTest, StaysOutWhileTheUserTypes) {
+    DockHidden();
+    docking.ShowOnDemand();
+    window.hasKeyboard = true;
+    docking.OnTyping();
+
+    docking.OnTimer(DockTimer::kHideCheck);
+
+    EXPECT_FALSE(docking.Hidden());
+    EXPECT_TRUE(window.timers.contains(DockTimer::kHideCheck)) << "it hides at the first tick after the typing";
+}
+
+TEST_F(DockingTest, HidesOnceTheTypingHasEnded) {
+    DockHidden();
+    docking.ShowOnDemand();
+    window.hasKeyboard = true;
+    docking.OnTyping();
+
+    docking.OnTypingEnded();
+    docking.OnTimer(DockTimer::kHideCheck);
+
+    EXPECT_TRUE(docking.Hidden());
+}
+
+TEST_F(DockingTest, HidesWhenWhatIsTypedGoesElsewhere) {
+    DockHidden();
+    docking.ShowOnDemand();
+    docking.OnTyping();
+
+    window.hasKeyboard = false;
+    docking.OnTimer(DockTimer::kHideCheck);
+
+    EXPECT_TRUE(docking.Hidden());
+}
+
+TEST_F(DockingTest, ABarThatOnlyTheMouseBroughtOutGoesWithTheMouse) {
+    DockHidden();
+    window.hasKeyboard = true;
+    docking.OnProgramActivated(true);
+    docking.OnHitTest();
+    window.cursorInside = true;
+    docking.OnTimer(DockTimer::kShowCheck);
+    ASSERT_FALSE(docking.Hidden());
+
+    window.cursorInside = false;
+    docking.OnTimer(DockTimer::kHideCheck);
+
+    EXPECT_TRUE(docking.Hidden());
+}
+
+TEST_F(DockingTest, ABarThatIsOutIsTypedIntoFromTheMomentItComesToTheFront) {
+    DockHidden();
+    docking.ShowOnDemand();
+    window.hasKeyboard = true;
+
+    docking.OnProgramActivated(true);
+    docking.OnTimer(DockTimer::kHideCheck);
+
+    EXPECT_FALSE(docking.Hidden());
+}
+
+TEST_F(DockingTest, ABarThatLeftTheFrontIsNotTypedIntoWhenItsDialogReturnsTheKeyboard) {
+    DockHidden();
+    docking.ShowOnDemand();
+    docking.OnTyping();
+    docking.OnProgramActivated(false);
+
+    window.hasKeyboard = true;
+    docking.OnTimer(DockTimer::kHideCheck);
+
+    EXPECT_TRUE(docking.Hidden());
+}
+
+TEST_F(DockingTest, WhatWasTypedBeforeItHidDoesNotKeepItOutTheNextTime) {
+    Dock();
+    window.hasKeyboard = true;
+    docking.OnTyping();
+    docking.ToggleAutoHide();
+    docking.ShowOnDemand();
+
+    docking.OnTimer(DockTimer::kHideCheck);
+
+    EXPECT_TRUE(docking.Hidden());
+}
+
+TEST_F(DockingTest, DockingAgainDoesNotHideTheBarUnderTheHandsOfTheUser) {
+    DockHidden();
+    docking.ShowOnDemand();
+    window.hasKeyboard = true;
+    docking.OnTyping();
+
+    docking.DockAgain();
+
+    EXPECT_FALSE(docking.Hidden());
+    EXPECT_EQ(window.place, (Rect{0, 0, 1280, 32}));
+    EXPECT_TRUE(window.visible);
+    docking.OnTimer(DockTimer::kHideCheck);
+    EXPECT_FALSE(docking.Hidden());
+}
+
+TEST_F(DockingTest, DockingAgainHidesABarThatNobodyTypesInto) {
+    DockHidden();
+    docking.ShowOnDemand();
+    window.hasKeyboard = true;
+
+    docking.DockAgain();
+
+    EXPECT_TRUE(docking.Hidden());
+    EXPECT_TRUE(window.visible);
+}
+
 TEST_F(DockingTest, TheHideCheckEndsWhenThereIsNothingToHide) {
     Dock();
     window.timers[DockTimer::kHideCheck] = milliseconds{500};
@@ -569,6 +682,54 @@ TEST_F(DockingTest, ASecondReportOfTheSameFullScreenProgramChangesNothing) {
     docking.OnShellEvent(ShellEvent::kFullScreenApp, false);
 
     EXPECT_EQ(desk.TakeLog(), "bottom; behind 77; ");
+}
+
+TEST_F(DockingTest, ABarThatWasOutHidesBelowAFullScreenProgram) {
+    DockHidden();
+    docking.ShowOnDemand();
+    docking.OnShellEvent(ShellEvent::kFullScreenApp, true);
+
+    docking.OnTimer(DockTimer::kHideCheck);
+
+    EXPECT_TRUE(docking.Hidden());
+    EXPECT_EQ(window.place, (Rect{0, 0, 1280, 1}));
+    EXPECT_EQ(window.order, ZOrder::kBottom);
+}
+
+TEST_F(DockingTest, ABarThatHidBelowAFullScreenProgramIsAStripAboveAllWhenItCloses) {
+    DockHidden();
+    docking.ShowOnDemand();
+    window.above = 77;
+    window.windows = {77};
+    window.plainWindows = {77};
+    docking.OnShellEvent(ShellEvent::kFullScreenApp, true);
+    docking.OnTimer(DockTimer::kHideCheck);
+
+    docking.OnShellEvent(ShellEvent::kFullScreenApp, false);
+
+    EXPECT_EQ(window.order, ZOrder::kTopmost);
+}
+
+TEST_F(DockingTest, ABarThatStayedOutBelowAFullScreenProgramIsNotTopmostWhenItCloses) {
+    DockHidden();
+    docking.ShowOnDemand();
+    window.above = 77;
+    window.windows = {77};
+    docking.OnShellEvent(ShellEvent::kFullScreenApp, true);
+
+    docking.OnShellEvent(ShellEvent::kFullScreenApp, false);
+
+    EXPECT_EQ(window.order, ZOrder::kNotTopmost);
+    EXPECT_EQ(window.place, (Rect{0, 0, 1280, 32}));
+}
+
+TEST_F(DockingTest, HearsOfAFullScreenProgramAlsoWhileItDocks) {
+    Begin(true);
+    shell.onReserve = [&] { docking.OnShellEvent(ShellEvent::kFullScreenApp, true); };
+
+    docking.ApplyMode(ShowAtEnd::kYes);
+
+    EXPECT_EQ(window.order, ZOrder::kBottom);
 }
 
 TEST_F(DockingTest, StaysBelowAFullScreenProgramThatChangesTheScreen) {
