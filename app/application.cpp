@@ -13,6 +13,7 @@
 #include "app/foreground.h"
 #include "app/logic/start_checks.h"
 #include "app/main_frame.h"
+#include "app/one_bar.h"
 #include "framework/centred_message_box.h"
 #include "framework/gdi.h"
 #include "framework/gdiplus_image.h"
@@ -78,7 +79,8 @@ int RunApplication(int showCommand) {
         return kExitFontMissing;
     }
 
-    // Released in the opposite order, after the frame.
+    // Released in the opposite order, after the frame. A copy that starts meanwhile waits for the end of this one.
+    ThisCopy thisCopy;
     const fw::GdiplusSession gdiplus;
     about::HelpSession help;
     const ComSession com;
@@ -87,8 +89,8 @@ int RunApplication(int showCommand) {
     fw::MessageLoop loop;
     const fw::MessageLoop::Registration helpKeys = loop.Add(help);
     CMainFrame frame{loop, help};
-    if (const HWND other = ::FindWindowW(CMainFrame::kClass.name, nullptr)) {
-        BringToForeground(other);
+    if (thisCopy.Decide() == StartVerdict::kBringForward) {
+        if (const HWND bar = ThisCopy::FindBar()) BringToForeground(bar);
         return kExitForwarded;
     }
     if (!frame.CreateFrame()) {

@@ -276,8 +276,7 @@ void CMainFrame::OpenOptions(UINT command) {
     search::DetectSearchTools(settings_);
     search::WindowsUserCommandFile userCommandFile{userCommands_->Path(), fw::LoadText(IDS_USER_COMMAND_HEADER)};
     launch::COptionDialog dialog{
-        page,
-        {.stores = Stores(), .userCommands = {userCommandFile, *userCommands_}, .histories = *this, .help = *this}};
+        page, {.stores = Stores(), .userCommands = userCommandFile, .histories = *this, .help = *this}};
     {
         const fw::ScopedFlag modal{modalMessageOpen_};
         options_ = &dialog;

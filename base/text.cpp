@@ -39,10 +39,10 @@ std::wstring_view Trimmed(std::wstring_view text) {
     return text.substr(first, text.find_last_not_of(kWhiteSpace) - first + 1);
 }
 
-std::vector<std::wstring_view> SplitText(std::wstring_view text, wchar_t separator) {
+std::vector<std::wstring_view> SplitText(std::wstring_view text, wchar_t separator, std::size_t most) {
     std::vector<std::wstring_view> pieces;
     std::size_t at = text.find_first_not_of(separator);
-    while (at != std::wstring_view::npos) {
+    while (at != std::wstring_view::npos && pieces.size() < most) {
         const std::size_t end = std::min(text.find(separator, at), text.size());
         pieces.push_back(text.substr(at, end - at));
         at = text.find_first_not_of(separator, end);

@@ -24,8 +24,9 @@ namespace korvane::base {
 // Without the blanks, tabs and line breaks at both ends.
 [[nodiscard]] std::wstring_view Trimmed(std::wstring_view text);
 
-// The non-empty pieces between separators: runs of separators count as one, as with wcstok.
-[[nodiscard]] std::vector<std::wstring_view> SplitText(std::wstring_view text, wchar_t separator);
+// The first `most` non-empty pieces between separators: runs of separators count as one, as with wcstok.
+[[nodiscard]] std::vector<std::wstring_view> SplitText(std::wstring_view text, wchar_t separator,
+                                                       std::size_t most = std::wstring_view::npos);
 
 // Every occurrence of `what` replaced, in one pass from the left; what is put in is not looked at again.
 [[nodiscard]] std::wstring ReplaceAll(std::wstring_view text, std::wstring_view what, std::wstring_view with);

@@ -89,10 +89,7 @@ public:
         : bar_{bar}, settings_{HKEY_CURRENT_USER, kSettingsKey}, standard_{around.folder.File(L"Korvane.dat")},
           user_{around.folder.File(L"UserCommand.dat")}, userFile_{user_.Path(), L""} {}
     [[nodiscard]] launch::OptionServices Get() {
-        return {.stores = {settings_, standard_, user_},
-                .userCommands = {userFile_, user_},
-                .histories = bar_,
-                .help = bar_};
+        return {.stores = {settings_, standard_, user_}, .userCommands = userFile_, .histories = bar_, .help = bar_};
     }
 
 private:

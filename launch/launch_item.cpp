@@ -9,6 +9,7 @@
 #include "launch/search_path.h"
 #include "launch/stored_line.h"
 #include "settings/logic/setting_keys.h"
+#include "settings/logic/stored_list.h"
 
 namespace korvane::launch {
 
@@ -96,27 +97,24 @@ std::vector<std::wstring> ReadLinesFrom(const settings::ProfileStore& store, int
         StoredLine line = ReadStoredLine(store, index);
         // What stands behind a number that is missing was never in the list.
         if (line.text.empty()) break;
-        if (!line.builtIn) lines.push_back(std::move(line.text));
+        if (!line.builtIn && HasPath(line.text)) lines.push_back(std::move(line.text));
     }
     return lines;
 }
 
 bool SaveList(settings::ProfileStore& store, std::span<const CLaunchItem* const> items,
               std::span<const std::wstring> unlisted) {
-    bool saved = store.DeleteSection(settings::section::kLaunchItems);
-    int number = 0;
-    const auto write = [&](const std::wstring& line) {
-        saved = store.Write(settings::keys::LaunchMenuItem, number, line) && saved;
-    };
+    std::vector<std::wstring> lines;
     for (const CLaunchItem* const item : items) {
-        ++number;
-        if (item) write(item->Format());
+        if (!item) {
+            lines.emplace_back();
+        } else if (!base::Trimmed(item->Path()).empty()) {
+            lines.push_back(item->Format());
+        }
     }
-    for (const std::wstring& line : unlisted) {
-        if (++number > MaxLaunchItems) break;
-        write(line);
-    }
-    return saved;
+    lines.insert(lines.end(), unlisted.begin(), unlisted.end());
+    if (lines.size() > std::size_t{MaxLaunchItems}) lines.resize(MaxLaunchItems);
+    return settings::StoreList(store, settings::keys::LaunchMenuItem, lines, MaxLaunchItems);
 }
 
 } // namespace korvane::launch

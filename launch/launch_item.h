@@ -71,11 +71,13 @@ private:
 [[nodiscard]] std::vector<CLaunchItem> LoadList(const settings::ProfileStore& store);
 
 // The stored lines behind the list's last item: those that cannot be loaded now, and those that follow them. The items
-// may be on a computer that is off.
+// may be on a computer that is off. A line without a path stands for nothing and is left out.
 [[nodiscard]] std::vector<std::wstring> ReadLinesFrom(const settings::ProfileStore& store, int listed);
 
-// Replaces all that is stored by the items, in their order; a null pointer uses up its number. Lines that no item was
-// made of follow them as they are, as far as there is room. False when something could not be written.
+// Replaces all that is stored by the items, in their order; a null pointer uses up its number, an item without a path,
+// whose line would be read with all fields shifted, none. Lines that no item was made of follow them as they are, as
+// far as there is room. An end of the process on the way costs no item that is to stay. False when something could not
+// be written.
 bool SaveList(settings::ProfileStore& store, std::span<const CLaunchItem* const> items,
               std::span<const std::wstring> unlisted = {});
 

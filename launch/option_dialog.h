@@ -21,7 +21,7 @@ namespace korvane::launch {
 // What the options work on. All of it outlives the dialog.
 struct OptionServices {
     search::SearchStores stores;
-    search::UserCommandPlaces userCommands;
+    search::UserCommandFile& userCommands;
     controls::HistoryKeeper& histories;
     about::HelpOpener& help;
 };

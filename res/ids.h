@@ -362,6 +362,7 @@
 #define IDS_COMMAND_LINE_HINT       289
 #define IDS_PLACEHOLDER_FIRST       290  // what each placeholder does, in the order in which they are offered
 #define IDS_PLACEHOLDER_LAST        297
+#define IDS_USER_FILE_UNREADABLE    298
 
 // Editor of a launch item, and icon picker.
 #define IDS_ITEM_EDITOR_TITLE       310

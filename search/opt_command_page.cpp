@@ -105,8 +105,8 @@ void AnswerText(const CommandLists::List& list, LVITEMW& item) {
 
 } // namespace
 
-COptCommandPage::COptCommandPage(SearchStores stores, UserCommandPlaces user, about::HelpOpener& help)
-    : stores_{stores}, user_{user}, help_{help} {}
+COptCommandPage::COptCommandPage(SearchStores stores, UserCommandFile& userFile, about::HelpOpener& help)
+    : stores_{stores}, userFile_{userFile}, help_{help} {}
 
 HWND COptCommandPage::ListOf(SearchCommandKind kind) const {
     return Control(ControlsOf(kind).list);
@@ -115,7 +115,9 @@ HWND COptCommandPage::ListOf(SearchCommandKind kind) const {
 bool COptCommandPage::OnInitDialog(HWND) {
     // Where Windows refuses it the template's own stays, with a caret.
     static_cast<void>(fw::TakePlace(details_, Handle(), IDC_COMMAND_DETAILS));
-    lists_ = CommandLists{stores_};
+    loaded_ = userFile_.Read();
+    if (loaded_.condition == FileCondition::kUnreadable) ::PostMessageW(Handle(), kTellUnreadable, 0, 0);
+    lists_ = CommandLists{stores_, loaded_.commands};
     for (const auto kind : kBothKinds) PrepareList(kind);
     const bool userFirst = stores_.settings.Read(settings::keys::PriorityUserCommand) == 1;
     ::CheckDlgButton(Handle(), IDC_PRIORITY_USER, userFirst ? BST_CHECKED : BST_UNCHECKED);
@@ -256,6 +258,10 @@ void COptCommandPage::OnUpdate(const fw::Message&) {
     Update();
 }
 
+void COptCommandPage::OnTellUnreadable(const fw::Message&) {
+    Ask(fw::LoadText(IDS_USER_FILE_UNREADABLE), MB_ICONEXCLAMATION);
+}
+
 void COptCommandPage::OnShowKind(UINT radioButton) {
     ShowKind(radioButton == IDC_USER_COMMANDS ? SearchCommandKind::kUser : SearchCommandKind::kStandard);
 }
@@ -382,8 +388,7 @@ bool COptCommandPage::Save() {
     const int userFirst = ::IsDlgButtonChecked(Handle(), IDC_PRIORITY_USER) == BST_CHECKED ? 1 : 0;
     const bool priorityWritten = settings.Write(settings::keys::PriorityUserCommand, userFirst);
     const bool selectionWritten = SaveStandardSelection(lists_.Of(SearchCommandKind::kStandard), settings);
-    const unsigned long error =
-        SaveUserCommands(lists_.Of(SearchCommandKind::kUser), user_.file, user_.store, settings);
+    const unsigned long error = SaveUserCommands(lists_.Of(SearchCommandKind::kUser), loaded_, userFile_, settings);
     if (error != 0) fw::ShowProductSystemError(Dialog(), error);
     return priorityWritten && selectionWritten;
 }

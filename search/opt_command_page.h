@@ -15,14 +15,9 @@
 #include "search/logic/command_lists.h"
 #include "search/logic/command_saving.h"
 #include "search/logic/search_commands.h"
+#include "search/logic/user_commands.h"
 
 namespace korvane::search {
-
-// Where the page writes the user's commands to; both outlive whatever takes this.
-struct UserCommandPlaces {
-    UserCommandFile& file;
-    settings::ProfileStore& store; // writes into that file
-};
 
 // The options' page for the search commands. What its lists hold and what can be done with them decides CommandLists;
 // the page keeps the controls in step with that.
@@ -33,6 +28,8 @@ public:
     // Posted to itself. A list that asks whether a row may change must not be kept waiting for a message box.
     static constexpr UINT kTellLimit = WM_APP + 1;
     static constexpr UINT kUpdate = WM_APP + 2;
+    // Nor is a dialog that is being made a place for one.
+    static constexpr UINT kTellUnreadable = WM_APP + 3;
 
     static constexpr auto Messages() {
         return fw::MessageMap{
@@ -44,6 +41,7 @@ public:
             fw::On<controls::kValidatePage>(&COptCommandPage::OnValidate),
             fw::On<kTellLimit>(&COptCommandPage::OnTellLimit),
             fw::On<kUpdate>(&COptCommandPage::OnUpdate),
+            fw::On<kTellUnreadable>(&COptCommandPage::OnTellUnreadable),
             fw::OnCommand<IDC_STANDARD_COMMANDS, IDC_USER_COMMANDS>(&COptCommandPage::OnShowKind),
             fw::OnCommand<IDC_MOVE_UP>(&COptCommandPage::OnMoveUp),
             fw::OnCommand<IDC_MOVE_DOWN>(&COptCommandPage::OnMoveDown),
@@ -66,7 +64,7 @@ public:
     }
 
     // All outlive the page.
-    COptCommandPage(SearchStores stores, UserCommandPlaces user, about::HelpOpener& help);
+    COptCommandPage(SearchStores stores, UserCommandFile& userFile, about::HelpOpener& help);
 
     // Writes which kind comes first, the order and selection of the standard commands, and the user's commands with
     // theirs. False when a setting could not be written; that the user's commands could not, the user has been told.
@@ -80,6 +78,7 @@ private:
     bool OnValidate(const fw::Message& message);
     void OnTellLimit(const fw::Message& message);
     void OnUpdate(const fw::Message& message);
+    void OnTellUnreadable(const fw::Message& message);
     void OnShowKind(UINT radioButton);
     void OnMoveUp();
     void OnMoveDown();
@@ -117,8 +116,9 @@ private:
     [[nodiscard]] HWND ShownList() const { return ListOf(lists_.ShownKind()); }
 
     SearchStores stores_;
-    UserCommandPlaces user_;
+    UserCommandFile& userFile_;
     about::HelpOpener& help_;
+    UserCommandReading loaded_; // what the user's list was made from
     CommandLists lists_;
     bool filling_ = false;
     bool limitToBeTold_ = false;

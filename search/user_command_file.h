@@ -1,28 +1,32 @@
 #pragma once
 
-#include <optional>
 #include <string>
 
-#include "search/logic/command_saving.h"
+#include "search/logic/user_commands.h"
+#include "settings/ini_backend.h"
+#include "settings/windows_files.h"
 
 namespace korvane::search {
 
-// "UserCommand.dat" as a file of Windows: UTF-16 with a byte order mark, so that the private-profile functions read and
-// write it as Unicode.
+// "UserCommand.dat" as a file of Windows. Its copy is "UserCommand.bak" in the same folder.
 class WindowsUserCommandFile final : public UserCommandFile {
 public:
     // `header` is written as it stands above the first section.
     WindowsUserCommandFile(std::wstring path, std::wstring header);
 
-    [[nodiscard]] unsigned long Recreate() override;
-    void Restore() override;
+    [[nodiscard]] UserCommandReading Read() const override;
+    [[nodiscard]] unsigned long KeepCopy() override;
+    [[nodiscard]] unsigned long Write(std::span<const SearchCommand> commands) override;
     [[nodiscard]] unsigned long Delete() override;
 
 private:
+    // The profile functions may hold a file's old content; this makes them let go of it.
+    void ForgetOldContent() const;
+
     std::wstring path_;
     std::wstring header_;
-    // What the last Recreate replaced; empty when there was no file or it could not be read.
-    std::optional<std::string> before_;
+    settings::IniFileStore store_;
+    settings::WindowsFiles files_;
 };
 
 } // namespace korvane::search

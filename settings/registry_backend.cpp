@@ -102,6 +102,24 @@ std::optional<std::vector<std::byte>> RegistryStore::ReadBinary(std::wstring_vie
     return std::move(value->data);
 }
 
+std::vector<std::wstring> RegistryStore::ValueNames(std::wstring_view section) const {
+    std::vector<std::wstring> names;
+    if (!IsUsableName(section)) return names;
+    LSTATUS status = ERROR_SUCCESS;
+    const fw::UniqueKey key = OpenKey(root_, PathOf(section), Rights(KEY_READ), status);
+    if (!key) return names;
+    // Characters; the longest name that the registry takes, and its terminating zero.
+    constexpr DWORD kLongestName = 16'383 + 1;
+    std::wstring name(kLongestName, L'\0');
+    for (DWORD index = 0;; ++index) {
+        DWORD length = kLongestName;
+        status = ::RegEnumValueW(key.Get(), index, name.data(), &length, nullptr, nullptr, nullptr, nullptr);
+        if (status != ERROR_SUCCESS) return names;
+        // The value without a name is none of a store's.
+        if (length != 0) names.emplace_back(name, 0, length);
+    }
+}
+
 bool RegistryStore::Set(std::wstring_view section, std::wstring_view name, DWORD type,
                         std::span<const std::byte> data) {
     if (!IsUsableName(section) || !IsUsableName(name)) return false;

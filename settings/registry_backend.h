@@ -28,6 +28,7 @@ public:
                                         std::wstring_view fallback = {}) const override;
     [[nodiscard]] std::optional<std::vector<std::byte>> ReadBinary(std::wstring_view section,
                                                                    std::wstring_view name) const override;
+    [[nodiscard]] std::vector<std::wstring> ValueNames(std::wstring_view section) const override;
 
     bool WriteInt(std::wstring_view section, std::wstring_view name, int value) override;
     bool WriteText(std::wstring_view section, std::wstring_view name, std::wstring_view text) override;

@@ -9,8 +9,8 @@ namespace korvane::launch {
 
 LineFields SplitLaunchLine(std::wstring_view line) {
     LineFields fields;
-    const auto pieces = base::SplitText(line, L',');
-    for (std::size_t i = 0; i < std::min(pieces.size(), kLineFields); ++i) fields[i] = base::Trimmed(pieces[i]);
+    const auto pieces = base::SplitText(line, L',', kLineFields);
+    std::transform(pieces.begin(), pieces.end(), fields.begin(), &base::Trimmed);
     return fields;
 }
 

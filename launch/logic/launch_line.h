@@ -15,6 +15,11 @@ using LineFields = std::array<std::wstring, kLineFields>;
 // trimmed, what follows the sixth is dropped, and missing fields stay empty.
 [[nodiscard]] LineFields SplitLaunchLine(std::wstring_view line);
 
+// False for a line that starts nothing.
+[[nodiscard]] inline bool HasPath(std::wstring_view line) {
+    return !SplitLaunchLine(line).front().empty();
+}
+
 // What a line is made of.
 struct LaunchLineParts {
     std::wstring_view path;

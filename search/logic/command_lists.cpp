@@ -17,13 +17,9 @@ constexpr SearchCommandKind Other(SearchCommandKind kind) {
     return kind == SearchCommandKind::kUser ? SearchCommandKind::kStandard : SearchCommandKind::kUser;
 }
 
-CommandLists::List ReadList(const SearchStores& stores, SearchCommandKind kind) {
-    auto commands = stores.TableOf(kind).ReadAll();
-    // The user's commands are renumbered whenever they are saved, so the file's order is theirs.
-    if (kind == SearchCommandKind::kStandard)
-        commands = InStoredOrder(std::move(commands), ParseNumberList(stores.settings.Read(keys::SearchCommandOrder)));
-
-    const auto numbers = ParseNumberList(stores.settings.Read(SelectionSetting(kind)));
+CommandLists::List WithSelection(std::vector<SearchCommand> commands, const settings::ProfileStore& settings,
+                                 SearchCommandKind kind) {
+    const auto numbers = ParseNumberList(settings.Read(SelectionSetting(kind)));
     const std::unordered_set<int> checked{numbers.begin(), numbers.end()};
     CommandLists::List list;
     list.reserve(commands.size());
@@ -36,9 +32,14 @@ CommandLists::List ReadList(const SearchStores& stores, SearchCommandKind kind) 
 
 } // namespace
 
-CommandLists::CommandLists(const SearchStores& stores) {
-    for (const auto kind : {SearchCommandKind::kStandard, SearchCommandKind::kUser})
-        HalfOf(kind).list = ReadList(stores, kind);
+CommandLists::CommandLists(const SearchStores& stores, std::vector<SearchCommand> userCommands) {
+    constexpr auto kStandard = SearchCommandKind::kStandard;
+    constexpr auto kUser = SearchCommandKind::kUser;
+    auto standard = InStoredOrder(stores.TableOf(kStandard).ReadAll(),
+                                  ParseNumberList(stores.settings.Read(keys::SearchCommandOrder)));
+    HalfOf(kStandard).list = WithSelection(std::move(standard), stores.settings, kStandard);
+    // The user's commands are renumbered whenever they are saved, so the file's order is theirs.
+    HalfOf(kUser).list = WithSelection(std::move(userCommands), stores.settings, kUser);
 }
 
 void CommandLists::Select(std::optional<std::size_t> row) {

@@ -44,9 +44,10 @@ public:
     using List = std::vector<ListedCommand>;
 
     CommandLists() = default;
-    // All commands of both kinds, with the stored order and selection. More commands than the limit stay checked when
-    // they are stored so: only checking another one is refused then.
-    explicit CommandLists(const SearchStores& stores);
+    // All commands of both kinds, with the stored order and selection. The user's are given, for they must be as they
+    // stand in their file, while a store may cut them. More commands than the limit stay checked when they are stored
+    // so: only checking another one is refused then.
+    CommandLists(const SearchStores& stores, std::vector<SearchCommand> userCommands);
 
     [[nodiscard]] const List& Of(SearchCommandKind kind) const { return HalfOf(kind).list; }
     [[nodiscard]] const List& Shown() const { return Of(shown_); }

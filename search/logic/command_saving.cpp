@@ -9,53 +9,40 @@ namespace korvane::search {
 namespace {
 
 namespace keys = settings::keys;
-namespace section = settings::section;
-namespace value = settings::search_command;
 
-// ERROR_WRITE_FAULT. A store says only that it could not write.
-constexpr unsigned long kWriteFault = 29;
-
-bool WriteCommand(const SearchCommand& command, int number, settings::ProfileStore& store) {
-    const std::wstring name = section::SearchCommand(number);
-    // The line break behind the last value leaves an empty line in the file after every command. Readers never see it.
-    return store.WriteText(name, value::kName, AsIniValue(command.name)) &&
-           store.WriteText(name, value::kLine, AsIniValue(command.line)) &&
-           store.WriteText(name, value::kComment, AsIniValue(command.comment) + L"\r\n");
+std::vector<SearchCommand> CommandsOf(std::span<const ListedCommand> list) {
+    std::vector<SearchCommand> commands;
+    for (const auto& item : list) {
+        commands.push_back(item.command);
+        commands.back().number = static_cast<int>(commands.size());
+    }
+    return commands;
 }
 
-constexpr bool IsBlank(wchar_t character) {
-    return character == L' ' || character == L'\t';
-}
-
-constexpr bool IsQuotationMark(wchar_t character) {
-    return character == L'"' || character == L'\'';
+unsigned long SaveFile(const std::vector<SearchCommand>& commands, const UserCommandReading& loaded,
+                       UserCommandFile& file) {
+    const UserCommandReading now = file.Read();
+    const bool nothingThere = now.condition == FileCondition::kNone;
+    // What the user did not change is not written, even if another program has changed it since or holds it now.
+    if (commands == loaded.commands && !nothingThere) return 0;
+    if (!commands.empty() && commands == now.commands) return 0;
+    const bool allLoaded = now.condition == FileCondition::kGood && now.commands == loaded.commands;
+    if (!nothingThere && !allLoaded)
+        if (const unsigned long error = file.KeepCopy()) return error;
+    return commands.empty() ? file.Delete() : file.Write(commands);
 }
 
 } // namespace
 
-std::wstring AsIniValue(std::wstring_view text) {
-    std::wstring line{text};
-    for (wchar_t& character : line)
-        if (character == L'\r' || character == L'\n' || character == L'\0') character = L' ';
-    if (line.empty()) return line;
-    const bool losesBlanks = IsBlank(line.front()) || IsBlank(line.back());
-    const bool losesMarks = line.size() > 1 && IsQuotationMark(line.front()) && line.front() == line.back();
-    return losesBlanks || losesMarks ? L'"' + line + L'"' : line;
-}
-
-unsigned long SaveUserCommands(std::span<const ListedCommand> list, UserCommandFile& file,
-                               settings::ProfileStore& userStore, settings::ProfileStore& settings) {
-    if (list.empty()) return file.Delete();
-    if (const unsigned long error = file.Recreate()) return error;
+unsigned long SaveUserCommands(std::span<const ListedCommand> list, const UserCommandReading& loaded,
+                               UserCommandFile& file, settings::ProfileStore& settings) {
+    if (const unsigned long error = SaveFile(CommandsOf(list), loaded, file)) return error;
+    if (list.empty()) return 0;
 
     std::vector<int> selected;
     int number = 0;
     for (const auto& item : list) {
         ++number;
-        if (!WriteCommand(item.command, number, userStore)) {
-            file.Restore();
-            return kWriteFault;
-        }
         if (item.selected) selected.push_back(number);
     }
     settings.Write(keys::UserSearchCommand, FormatNumberList(selected));

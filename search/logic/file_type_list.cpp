@@ -14,6 +14,9 @@ constexpr std::wstring_view kInitial = L"*.cpp;*.cxx;*.c;*.h;*.inl;*.rc\n"
                                        L"*.txt\n"
                                        L"*.*";
 
+// More entries than anybody has made; a list of another hand may have any number.
+constexpr std::size_t kMostRead = 100;
+
 } // namespace
 
 FileTypeList::FileTypeList() {
@@ -30,7 +33,7 @@ FileTypeList FileTypeList::Restore(std::wstring_view kept) {
 
 void FileTypeList::Append(std::wstring_view lines) {
     // Whoever edits the list by hand may leave carriage returns and blanks.
-    for (const std::wstring_view line : base::SplitText(lines, L'\n'))
+    for (const std::wstring_view line : base::SplitText(lines, L'\n', kMostRead))
         if (const auto entry = base::Trimmed(line); !entry.empty()) entries_.emplace_back(entry);
 }
 

@@ -1,9 +1,11 @@
 #include "search/logic/history.h"
 
 #include <algorithm>
+#include <span>
 
 #include "base/text.h"
 #include "settings/logic/setting_keys.h"
+#include "settings/logic/stored_list.h"
 
 namespace korvane::search {
 
@@ -32,12 +34,8 @@ void History::Remove(std::wstring_view text) {
 }
 
 bool History::Save(settings::ProfileStore& store, const settings::NumberedSetting& list, int most) const {
-    const int count = std::clamp(most, 0, static_cast<int>(entries_.size()));
-    // The whole section goes first: entries of an earlier, longer list would otherwise follow the new ones.
-    bool written = store.DeleteSection(list.section);
-    for (int i = 0; i < count; ++i)
-        written = store.Write(list, i + 1, entries_[static_cast<std::size_t>(i)]) && written;
-    return written;
+    const auto count = static_cast<std::size_t>(std::clamp(most, 0, static_cast<int>(entries_.size())));
+    return settings::StoreList(store, list, std::span{entries_}.first(count), kMostEntries);
 }
 
 History History::Restore(const settings::ProfileStore& store, const settings::NumberedSetting& list) {

@@ -26,8 +26,8 @@ public:
 
     [[nodiscard]] const std::vector<std::wstring>& Entries() const { return entries_; }
 
-    // Replaces the saved list by the newest entries, at most `most`; fewer than one leaves none. False when something
-    // could not be written.
+    // Replaces the saved list by the newest entries, at most `most`; fewer than one leaves none. An end of the process
+    // on the way costs no entry that is to stay. False when something could not be written.
     bool Save(settings::ProfileStore& store, const settings::NumberedSetting& list, int most) const;
 
     // What is saved, up to the first missing or empty entry.

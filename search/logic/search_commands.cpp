@@ -1,6 +1,7 @@
 #include "search/logic/search_commands.h"
 
 #include <algorithm>
+#include <limits>
 #include <unordered_map>
 #include <utility>
 
@@ -16,20 +17,19 @@ namespace keys = settings::keys;
 namespace section = settings::section;
 namespace value = settings::search_command;
 
-// What lies outside is no search command to the frame: a click there would do nothing or something else.
-constexpr bool IsMenuCommand(SearchCommandId id) {
-    return id.Value() >= ID_SEARCH_FIRST && id.Value() <= ID_SEARCH_LAST;
-}
+// The sum of the greatest number and a kind's first identifier has no room in an integer.
+static_assert(!MenuCommandId(SearchCommandKind::kUser, std::numeric_limits<int>::max()));
+static_assert(!MenuCommandId(SearchCommandKind::kStandard, std::numeric_limits<int>::min()));
 
 void AppendSearchCommandGroup(const SearchMenuGroup& group, const SearchCommandNameOf& nameOf,
                               std::vector<base::MenuRow>& rows) {
     for (const int number : group.numbers) {
         // The options never select more; only a list written by another hand can.
         if (rows.size() >= std::size_t{kMostSelectedCommands}) return;
-        const SearchCommandId id{group.kind, number};
-        if (number < 1 || number > ID_SEARCH_LAST || !IsMenuCommand(id)) continue;
+        const auto id = MenuCommandId(group.kind, number);
+        if (!id) continue;
         auto name = nameOf(group.kind, number);
-        if (!name.empty()) rows.push_back({static_cast<unsigned>(id.Value()), std::move(name)});
+        if (!name.empty()) rows.push_back({static_cast<unsigned>(id->Value()), std::move(name)});
     }
 }
 
@@ -37,7 +37,8 @@ void AppendSearchCommandGroup(const SearchMenuGroup& group, const SearchCommandN
 
 std::vector<int> ParseNumberList(std::wstring_view list) {
     std::vector<int> numbers;
-    for (const auto piece : base::SplitText(list, L',')) numbers.push_back(base::LeadingInteger(piece));
+    for (const auto piece : base::SplitText(list, L',', kMostListedNumbers))
+        numbers.push_back(base::LeadingInteger(piece));
     return numbers;
 }
 
@@ -60,12 +61,13 @@ std::wstring SearchCommandTable::LineOf(int number) const {
 
 std::vector<SearchCommand> SearchCommandTable::ReadAll() const {
     std::vector<SearchCommand> commands;
-    for (int number = 1;; ++number) {
+    for (int number = 1; number <= kMostCommandsRead; ++number) {
         auto name = NameOf(number);
-        if (name.empty()) return commands;
+        if (name.empty()) break;
         commands.push_back({number, std::move(name), LineOf(number),
                             store_.ReadText(section::SearchCommand(number), value::kComment)});
     }
+    return commands;
 }
 
 const settings::TextSetting& SelectionSetting(SearchCommandKind kind) {

@@ -1,13 +1,16 @@
 #pragma once
 
 #include <array>
+#include <cstddef>
 #include <functional>
+#include <optional>
 #include <span>
 #include <string>
 #include <string_view>
 #include <vector>
 
 #include "base/menu_rows.h"
+#include "res/ids.h"
 #include "settings/logic/profile_store.h"
 
 namespace korvane::search {
@@ -57,7 +60,22 @@ private:
     int value_ = 0;
 };
 
-// The numbers of a list such as "1,5,6,". Empty pieces do not count; a piece that is no number gives 0.
+// The identifier of a command in the menu. What lies outside is no search command to the frame, where a click would do
+// nothing or something else; a number that is stored may be any.
+[[nodiscard]] constexpr std::optional<SearchCommandId> MenuCommandId(SearchCommandKind kind, int number) {
+    if (number < 1 || number > ID_SEARCH_LAST) return std::nullopt;
+    const SearchCommandId id{kind, number};
+    if (id.Value() < ID_SEARCH_FIRST || id.Value() > ID_SEARCH_LAST) return std::nullopt;
+    return id;
+}
+
+// More numbers than the menu and the standard commands' order ever need; a list that another hand has written may have
+// millions, each of which would be looked up.
+inline constexpr std::size_t kMostListedNumbers = 500;
+// No more commands than these are read from one file.
+inline constexpr int kMostCommandsRead = 1000;
+
+// The first numbers of a list such as "1,5,6,". Empty pieces do not count; a piece that is no number gives 0.
 [[nodiscard]] std::vector<int> ParseNumberList(std::wstring_view list);
 
 // The numbers with commas between them and none at the end.
@@ -71,7 +89,7 @@ public:
     // Empty when there is no such command.
     [[nodiscard]] std::wstring NameOf(int number) const;
     [[nodiscard]] std::wstring LineOf(int number) const;
-    // All commands from number 1 up to the first that has no name.
+    // All commands from number 1 up to the first that has no name, as far as anybody has made so many.
     [[nodiscard]] std::vector<SearchCommand> ReadAll() const;
 
 private:

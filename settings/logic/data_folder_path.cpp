@@ -17,4 +17,10 @@ std::wstring UserCommandFileIn(std::wstring_view dataFolder) {
     return std::wstring{dataFolder} += L"UserCommand.dat";
 }
 
+std::wstring CopyOfUserCommandFile(std::wstring_view userCommandFile) {
+    constexpr std::wstring_view kExtension = L".dat";
+    if (userCommandFile.ends_with(kExtension)) userCommandFile.remove_suffix(kExtension.size());
+    return std::wstring{userCommandFile}.append(L".bak");
+}
+
 } // namespace korvane::settings

@@ -57,6 +57,8 @@ public:
     // Empty when there is no such value, or none of at least one byte.
     [[nodiscard]] virtual std::optional<std::vector<std::byte>> ReadBinary(std::wstring_view section,
                                                                            std::wstring_view name) const = 0;
+    // Every value that a section has, in no order.
+    [[nodiscard]] virtual std::vector<std::wstring> ValueNames(std::wstring_view section) const = 0;
 
     virtual bool WriteInt(std::wstring_view section, std::wstring_view name, int value) = 0;
     virtual bool WriteText(std::wstring_view section, std::wstring_view name, std::wstring_view text) = 0;

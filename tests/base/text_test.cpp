@@ -60,6 +60,12 @@ TEST(SplitText, TakesARunOfSeparatorsForOne) {
     EXPECT_EQ(SplitText(L"whole", L','), (Pieces{L"whole"}));
 }
 
+TEST(SplitText, StopsAfterAsManyAsAreWanted) {
+    EXPECT_EQ(SplitText(L",a,b,c", L',', 2), (Pieces{L"a", L"b"}));
+    EXPECT_EQ(SplitText(L"a,b", L',', 3), (Pieces{L"a", L"b"}));
+    EXPECT_TRUE(SplitText(L"a,b", L',', 0).empty());
+}
+
 TEST(SplitText, FindsNothingInSeparatorsAlone) {
     EXPECT_TRUE(SplitText(L",,,", L',').empty());
     EXPECT_TRUE(SplitText(L"", L',').empty());

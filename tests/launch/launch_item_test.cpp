@@ -426,16 +426,52 @@ TEST_F(LaunchItemTest, ReplacesTheWholeSectionWhenTheListIsSaved) {
     std::vector<CLaunchItem> list = LoadList(items.store);
     std::swap(list[0], list[4]);
     list.resize(3);
-    items.store.log.clear();
 
     EXPECT_TRUE(SaveList(items.store, PointersTo(list)));
 
-    EXPECT_EQ(items.store.log, L"delete Settings\\LaunchMenuItem\n"
-                               L"Settings\\LaunchMenuItem.LaunchMenu01=" +
-                                   items.LineOf(5, L"n5") + L"\nSettings\\LaunchMenuItem.LaunchMenu02=" +
-                                   items.LineOf(2, L"n2") + L"\nSettings\\LaunchMenuItem.LaunchMenu03=" +
-                                   items.LineOf(3, L"n3") + L"\n");
+    EXPECT_EQ(items.store.sections[std::wstring{settings::section::kLaunchItems}].size(), 3U);
     EXPECT_THAT(NamesOf(LoadList(items.store)), ElementsAre(L"n5", L"n2", L"n3"));
+}
+
+TEST_F(LaunchItemTest, IsNeverMissingWhereverTheSavingOfItsListEnds) {
+    items.PutWholeUpTo(5);
+    std::vector<CLaunchItem> list = LoadList(items.store);
+    std::swap(list[0], list[4]);
+    std::swap(list[1], list[2]);
+    const auto before = items.store.sections;
+
+    for (int writes = 0;; ++writes) {
+        items.store.sections = before;
+        items.store.writesThatSucceed = writes;
+        const bool whole = SaveList(items.store, PointersTo(list));
+
+        EXPECT_THAT(NamesOf(LoadList(items.store)), testing::IsSupersetOf({L"n1", L"n2", L"n3", L"n4", L"n5"}))
+            << writes;
+        if (whole) break;
+    }
+    EXPECT_THAT(NamesOf(LoadList(items.store)), ElementsAre(L"n5", L"n3", L"n2", L"n4", L"n1"));
+}
+
+TEST_F(LaunchItemTest, IsNotKeptWithoutAPath) {
+    items.PutWholeUpTo(3);
+    items.Put(4, L" , , ," + items.Icon(L"i.ico", RGB(1, 1, 1)) + L",0,nothing");
+    items.PutWhole(5);
+    const std::vector<CLaunchItem> list = LoadList(items.store);
+    ASSERT_EQ(list.size(), 5U);
+
+    EXPECT_TRUE(SaveList(items.store, PointersTo(list)));
+
+    // Written again, its fields would have moved forward, and the items after it would be hidden.
+    EXPECT_THAT(NamesOf(LoadList(items.store)), ElementsAre(L"n1", L"n2", L"n3", L"n5"));
+}
+
+TEST_F(LaunchItemTest, KeepsNoUnloadedLineWithoutAPath) {
+    items.PutWholeUpTo(3);
+    items.Put(4, L"   ");
+    items.Put(5, L" , , ,a.ico,0,nothing");
+    items.PutWhole(6);
+
+    EXPECT_THAT(ReadLinesFrom(items.store, 3), ElementsAre(items.LineOf(6, L"n6")));
 }
 
 TEST_F(LaunchItemTest, WritesTwoDigitsInEveryKey) {

@@ -372,6 +372,7 @@ TEST_F(OptExtraPage, KeepsItemsThatCannotBeLoadedNow) {
 
 TEST_F(OptExtraPage, TellsWhenItCouldNotSave) {
     Open(4);
+    Command(1031);
     items.store.writesThatSucceed = 2;
 
     EXPECT_FALSE(page->Save());

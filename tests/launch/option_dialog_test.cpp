@@ -36,8 +36,9 @@ public:
 
 class NoFile final : public search::UserCommandFile {
 public:
-    [[nodiscard]] unsigned long Recreate() override { return 0; }
-    void Restore() override {}
+    [[nodiscard]] search::UserCommandReading Read() const override { return {}; }
+    [[nodiscard]] unsigned long KeepCopy() override { return 0; }
+    [[nodiscard]] unsigned long Write(std::span<const search::SearchCommand>) override { return 0; }
     [[nodiscard]] unsigned long Delete() override { return 0; }
 };
 
@@ -49,10 +50,9 @@ protected:
         store.sections[L"Settings"][L"DefaultSearchCommand"] = std::wstring{L"1"};
     }
     void Open(OptionPage page = OptionPage::kMain) {
-        dialog = std::make_unique<COptionDialog>(page, OptionServices{.stores = {store, standard, user},
-                                                                      .userCommands = {file, user},
-                                                                      .histories = histories,
-                                                                      .help = help});
+        dialog = std::make_unique<COptionDialog>(
+            page, OptionServices{
+                      .stores = {store, standard, user}, .userCommands = file, .histories = histories, .help = help});
         ASSERT_TRUE(dialog->Create(Host()));
         store.log.clear();
     }
@@ -277,7 +277,7 @@ TEST_F(OptionDialog, SavesAllPagesInTheirOrder) {
     const auto main = store.log.find(L"Settings.DesktopBarEdge=");
     const auto priority = store.log.find(L"Settings.PriorityUserCommand=");
     const auto order = store.log.find(L"Settings.SearchCommandOrder=");
-    const auto items = store.log.find(L"delete Settings\\LaunchMenuItem");
+    const auto items = store.log.find(L"Settings\\LaunchMenuItem.LaunchMenu01=");
     EXPECT_NE(main, std::wstring::npos);
     EXPECT_LT(main, priority);
     EXPECT_LT(priority, order);

@@ -95,8 +95,7 @@ protected:
         user.log.clear();
     }
     std::unique_ptr<COptCommandPage> MakePage() {
-        auto made = std::make_unique<COptCommandPage>(SearchStores{settings, standard, user},
-                                                      UserCommandPlaces{file, user}, help);
+        auto made = std::make_unique<COptCommandPage>(SearchStores{settings, standard, user}, file, help);
         EXPECT_TRUE(made->Create(dialog.Handle()));
         ::ShowWindow(made->Handle(), SW_SHOW);
         return made;
@@ -675,16 +674,73 @@ TEST_F(OptCommandPage, SavesPriorityThenStandardThenUserCommands) {
     Select(kStandardList, 0);
     Press(kDown);
     Press(kPriority);
+    SelectUser(0);
+    Press(kDown);
 
     EXPECT_TRUE(page->Save());
 
     EXPECT_EQ(settings.log, L"Settings.PriorityUserCommand=0\n"
                             L"Settings.SearchCommandOrder=2,1,3\n"
                             L"Settings.DefaultSearchCommand=1\n"
-                            L"Settings.UserSearchCommand=1\n");
-    EXPECT_EQ(file.log, L"recreate;");
+                            L"Settings.UserSearchCommand=2\n");
+    EXPECT_EQ(file.log, L"write;");
     EXPECT_EQ(user.sections.size(), 2U);
-    EXPECT_EQ(user.ReadText(L"SearchCommand_02", L"CommandName"), L"u2");
+    EXPECT_EQ(user.ReadText(L"SearchCommand_02", L"CommandName"), L"u1");
+}
+
+TEST_F(OptCommandPage, LeavesTheFileAloneWhenOnlyTheSelectionChanged) {
+    Open(1, 2, 1, 1);
+    Press(kUserRadio);
+    Press(kCheckAll);
+
+    EXPECT_TRUE(page->Save());
+
+    EXPECT_EQ(file.log, L"");
+    EXPECT_EQ(settings.ReadText(L"Settings", L"UserSearchCommand"), L"1,2");
+}
+
+TEST_F(OptCommandPage, TellsOfAFileThatCouldNotBeReadAndLeavesItAlone) {
+    file.condition = FileCondition::kUnreadable;
+    test::MessageBoxAnswer answer{IDOK};
+    Open(1, 0, 1);
+
+    Pump();
+
+    EXPECT_EQ(answer.Count(), 1);
+    EXPECT_EQ(answer.Caption(), L"Korvane");
+    EXPECT_THAT(answer.Text(),
+                testing::StartsWith(L"ユーザー定義コマンドのファイル 'UserCommand.dat' の全部または一部を"));
+    EXPECT_THAT(answer.Text(), testing::HasSubstr(L"'UserCommand.bak'"));
+    EXPECT_TRUE(page->Save());
+    EXPECT_EQ(file.log, L"");
+    EXPECT_EQ(answer.Count(), 1);
+}
+
+TEST_F(OptCommandPage, SaysNothingOfAFileThatIsAsItShouldBe) {
+    test::MessageBoxAnswer answer{IDOK};
+    for (const auto condition : {FileCondition::kNone, FileCondition::kGood, FileCondition::kForeign}) {
+        file.condition = condition;
+        Open(1, 1, 1);
+
+        Pump();
+
+        EXPECT_EQ(answer.Count(), 0);
+    }
+}
+
+TEST_F(OptCommandPage, KeepsACopyOfAFileThatCouldNotBeReadBeforeItWritesANewOne) {
+    file.condition = FileCondition::kUnreadable;
+    test::MessageBoxAnswer answer{IDOK};
+    Open(1, 0, 1);
+    Pump();
+    Select(kStandardList, 0);
+    Press(kCopy);
+    Press(kUserRadio);
+    Press(kPaste);
+
+    EXPECT_TRUE(page->Save());
+
+    EXPECT_EQ(file.log, L"copy;write;");
 }
 
 TEST_F(OptCommandPage, DeletesTheFileOfAnEmptyUsersList) {
@@ -703,7 +759,7 @@ TEST_F(OptCommandPage, DeletesTheFileOfAnEmptyUsersList) {
 TEST_F(OptCommandPage, SavesNothingWithoutAWindow) {
     Open(1, 1);
     page.reset();
-    COptCommandPage closed{SearchStores{settings, standard, user}, UserCommandPlaces{file, user}, help};
+    COptCommandPage closed{SearchStores{settings, standard, user}, file, help};
 
     EXPECT_TRUE(closed.Save());
 
@@ -728,8 +784,11 @@ TEST_F(OptCommandPage, LeavesAllAsItWasUnlessItIsSaved) {
 
 TEST_F(OptCommandPage, TellsWhyTheUsersCommandsCouldNotBeWrittenAndSavesTheRest) {
     Open(2, 1, 1, 0);
-    file.recreateError = ERROR_ACCESS_DENIED;
+    file.writeError = ERROR_ACCESS_DENIED;
     test::MessageBoxAnswer answer{IDOK};
+    SelectUser(0);
+    Press(kCopy);
+    Press(kPaste);
 
     EXPECT_TRUE(page->Save());
 
@@ -764,6 +823,7 @@ TEST_F(OptCommandPage, WritesAWholeFileAlsoWhenAnotherProgramHasChangedIt) {
 
     EXPECT_TRUE(page->Save());
 
+    EXPECT_EQ(file.log, L"copy;write;");
     EXPECT_EQ(user.sections.size(), 2U);
     EXPECT_EQ(user.ReadText(L"SearchCommand_02", L"CommandName"), L"u3");
     Reopen();
@@ -772,18 +832,17 @@ TEST_F(OptCommandPage, WritesAWholeFileAlsoWhenAnotherProgramHasChangedIt) {
 
 TEST_F(OptCommandPage, GetsEveryTextBackFromItsFile) {
     const test::TempFolder folder;
-    settings::IniFileStore store{folder.File(L"UserCommand.dat")};
+    settings::IniFileStore store{folder.File(L"UserCommand.dat"), settings::LongTexts::kWhole};
     WindowsUserCommandFile realFile{folder.File(L"UserCommand.dat"), L";header\r\n\r\n"};
     const auto open = [&] {
-        page = std::make_unique<COptCommandPage>(SearchStores{settings, standard, store},
-                                                 UserCommandPlaces{realFile, store}, help);
+        page = std::make_unique<COptCommandPage>(SearchStores{settings, standard, store}, realFile, help);
         EXPECT_TRUE(page->Create(dialog.Handle()));
         Press(kUserRadio);
     };
     const std::vector<SearchCommand> commands{
         {1, L" 名前 ", L"\"C:\\a b.exe\" \"<%Search_UTF16%>\"", L"; a = b [c]"},
         {2, L"\"quoted\"", L"='<%Search%>'", L""},
-        {3, std::wstring(25, L'名'), std::wstring(4095, L'x'), std::wstring(150, L'概')},
+        {3, std::wstring(25, L'名'), std::wstring(9'000, L'x'), std::wstring(150, L'概')},
     };
 
     open();

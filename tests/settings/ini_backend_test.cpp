@@ -56,6 +56,8 @@ TEST_F(IniFileStoreTest, ReadsALongTextUpToTheEndOfItsBuffer) {
         ASSERT_TRUE(store.WriteText(L"Settings", L"Value", text));
 
         EXPECT_EQ(store.ReadText(L"Settings", L"Value"), text.substr(0, 4095)) << length;
+        const IniFileStore whole{store.Path(), LongTexts::kWhole};
+        EXPECT_EQ(whole.ReadText(L"Settings", L"Value"), text) << length;
     }
 }
 

@@ -75,9 +75,26 @@ TEST_P(EveryStore, GivesEveryFallbackToAFreshUser) {
     for (const NumberedSetting& row : kEveryNumbered) EXPECT_EQ(store.Read(row, 1), L"");
 }
 
+TEST_P(EveryStore, NamesTheValuesOfASection) {
+    EXPECT_THAT(store.ValueNames(L"Settings"), testing::IsEmpty());
+    store.WriteInt(L"Settings", L"Number", 1);
+    store.WriteText(L"Settings", L"Text", L"");
+    store.WriteText(L"Settings\\Below", L"Other", L"x");
+    std::vector<std::wstring> names;
+    for (int i = 1; i <= 300; ++i) {
+        names.push_back(std::wstring(40, L'n') + std::to_wstring(i));
+        store.WriteInt(L"Many", names.back(), i);
+    }
+
+    EXPECT_THAT(store.ValueNames(L"Settings"), testing::UnorderedElementsAre(L"Number", L"Text"));
+    EXPECT_THAT(store.ValueNames(L"Many"), testing::UnorderedElementsAreArray(names));
+    EXPECT_THAT(store.ValueNames(L""), testing::IsEmpty());
+}
+
 TEST_P(EveryStore, CreatesNothingByReadingOrDeleting) {
     EXPECT_EQ(store.ReadInt(L"Settings", L"Missing", 7), 7);
     EXPECT_EQ(store.ReadText(L"Settings", L"Missing", L"x"), L"x");
+    EXPECT_THAT(store.ValueNames(L"Settings"), testing::IsEmpty());
     EXPECT_FALSE(store.ReadBinary(L"Settings", L"Missing"));
     EXPECT_TRUE(store.DeleteValue(L"Settings", L"Missing"));
     EXPECT_TRUE(store.DeleteSection(L"Settings"));

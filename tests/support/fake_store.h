@@ -35,6 +35,13 @@ public:
         return value && !value->empty() ? std::optional{*value} : std::nullopt;
     }
 
+    [[nodiscard]] std::vector<std::wstring> ValueNames(std::wstring_view section) const override {
+        std::vector<std::wstring> names;
+        if (const auto at = sections.find(std::wstring{section}); at != sections.end())
+            for (const auto& [name, value] : at->second) names.push_back(name);
+        return names;
+    }
+
     bool WriteInt(std::wstring_view section, std::wstring_view name, int value) override {
         return Put(section, name, value, std::to_wstring(value));
     }

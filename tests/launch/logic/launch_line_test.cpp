@@ -7,6 +7,7 @@
 #include "launch/logic/command_entry.h"
 
 using korvane::launch::CommandEntry;
+using korvane::launch::HasPath;
 using korvane::launch::ParseCommandEntry;
 using korvane::launch::SplitLaunchLine;
 
@@ -79,6 +80,13 @@ std::wstring Format(std::wstring_view path, std::wstring_view arguments, std::ws
 TEST(LaunchLineFormat, WritesEmptyArgumentsAndFolderAsABlank) {
     EXPECT_EQ(Format(L"regedit.exe", L"", L"", L"regedit.exe", 0, L"レジストリ エディタ"),
               L"regedit.exe, , ,regedit.exe,0,レジストリ エディタ");
+}
+
+TEST(LaunchLine, HasNoPathWhenItsFirstFieldIsBlank) {
+    EXPECT_TRUE(HasPath(L"a.exe"));
+    EXPECT_TRUE(HasPath(L",,a.exe, , ,i,0,n"));
+    for (const wchar_t* const line : {L"", L" ", L",,,", L" , , ,i.ico,0,name", L"\t,a"})
+        EXPECT_FALSE(HasPath(line)) << line;
 }
 
 TEST(LaunchLineFormat, WritesPathIconFileAndNameAsTheyStandEvenWhenTheyAreEmpty) {

@@ -43,7 +43,7 @@ struct CommandListsTest : testing::Test {
         Set(L"DefaultSearchCommand", std::wstring{});
         Reload();
     }
-    void Reload() { lists = CommandLists{SearchStores{settings, standard, user}}; }
+    void Reload() { lists = CommandLists{SearchStores{settings, standard, user}, SearchCommandTable{user}.ReadAll()}; }
     void Show(SearchCommandKind kind, std::optional<std::size_t> row = {}) {
         lists.Show(kind);
         lists.Select(row);
@@ -71,6 +71,16 @@ using CheckingCommands = CommandListsTest;
 using ChangingCommands = CommandListsTest;
 
 } // namespace
+
+TEST_F(LoadingCommandLists, TakesTheUsersCommandsAsTheyAreGiven) {
+    Fill(user, 1, L"cut");
+    const std::wstring longLine(5'000, L'x');
+
+    lists = CommandLists{SearchStores{settings, standard, user}, {{1, L"whole", longLine, L""}}};
+
+    ASSERT_THAT(Names(kUser), testing::ElementsAre(L"whole"));
+    EXPECT_EQ(lists.Of(kUser).front().command.line, longLine);
+}
 
 TEST_F(LoadingCommandLists, IsEmptyWithoutFiles) {
     Reload();

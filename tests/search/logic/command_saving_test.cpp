@@ -16,29 +16,33 @@ ListedCommand Listed(int number, const std::wstring& name, bool selected) {
     return {{number, name, L"line of " + name, L"about " + name}, selected};
 }
 
+using List = std::vector<ListedCommand>;
+
 struct SavingUserCommands : testing::Test {
     FakeStore user;
     FakeStore settings;
     FakeUserFile file{user};
+    UserCommandReading loaded;
 
-    unsigned long Save(const std::vector<ListedCommand>& list) { return SaveUserCommands(list, file, user, settings); }
+    // The file holds these commands, and the list in the options was made from them.
+    void Load(const List& list) {
+        ASSERT_EQ(SaveUserCommands(list, {}, file, settings), 0U);
+        loaded = file.Read();
+        file.log.clear();
+        settings.log.clear();
+    }
+    unsigned long Save(const List& list) { return SaveUserCommands(list, loaded, file, settings); }
 };
 
 } // namespace
 
-TEST_F(SavingUserCommands, WritesNameLineAndCommentInThisOrder) {
-    EXPECT_EQ(Save({Listed(1, L"a", false)}), 0U);
-
-    EXPECT_EQ(user.log, L"SearchCommand_01.CommandName=a\n"
-                        L"SearchCommand_01.CommandLine=line of a\n"
-                        L"SearchCommand_01.Comment=about a\r\n\n");
-    EXPECT_EQ(file.log, L"recreate;");
-}
-
 TEST_F(SavingUserCommands, NumbersThemAnewAndTheSelectionFollows) {
-    // Three commands of which the first was deleted.
+    Load({Listed(1, L"a", true), Listed(2, L"b", true), Listed(3, L"c", true)});
+
+    // The first was deleted.
     EXPECT_EQ(Save({Listed(2, L"b", true), Listed(3, L"c", true)}), 0U);
 
+    EXPECT_EQ(file.log, L"write;");
     EXPECT_EQ(SearchCommandTable{user}.NameOf(1), L"b");
     EXPECT_EQ(SearchCommandTable{user}.NameOf(2), L"c");
     EXPECT_EQ(SearchCommandTable{user}.NameOf(3), L"");
@@ -60,7 +64,7 @@ TEST_F(SavingUserCommands, RemovesTheSelectionWhenNothingIsChecked) {
 }
 
 TEST_F(SavingUserCommands, DeletesTheFileOfAnEmptyListAndStops) {
-    user.WriteText(L"SearchCommand_01", L"CommandName", L"old");
+    Load({Listed(1, L"old", false)});
 
     EXPECT_EQ(Save({}), 0U);
 
@@ -74,43 +78,124 @@ TEST_F(SavingUserCommands, SaysWhyTheFileCannotBeDeleted) {
     EXPECT_EQ(Save({}), 5U);
 }
 
-TEST_F(SavingUserCommands, SaysWhyTheFileCannotBeCreatedAndStops) {
-    file.recreateError = 32;
+TEST_F(SavingUserCommands, SaysWhyTheFileCannotBeWrittenAndKeepsTheOldSelection) {
+    Load({Listed(1, L"old", true)});
+    file.writeError = 32;
 
     EXPECT_EQ(Save({Listed(1, L"a", true)}), 32U);
 
-    EXPECT_EQ(user.log, L"");
+    EXPECT_EQ(SearchCommandTable{user}.NameOf(1), L"old");
     EXPECT_EQ(settings.log, L"");
 }
 
-TEST_F(SavingUserCommands, BringsTheOldCommandsBackWhenAWriteFails) {
-    ASSERT_EQ(Save({Listed(1, L"old", true)}), 0U);
-    const auto before = user.sections;
-    settings.log.clear();
-    user.writesThatSucceed = 4;
+TEST_F(SavingUserCommands, WritesNothingButTheSelectionWhenNothingElseChanged) {
+    Load({Listed(1, L"a", true), Listed(2, L"b", true)});
 
-    EXPECT_NE(Save({Listed(1, L"a", false), Listed(2, L"b", false)}), 0U);
+    EXPECT_EQ(Save({Listed(1, L"a", false), Listed(2, L"b", true)}), 0U);
 
-    EXPECT_EQ(user.sections, before);
+    EXPECT_EQ(file.log, L"");
+    EXPECT_EQ(settings.log, L"Settings.UserSearchCommand=2\n");
+}
+
+TEST_F(SavingUserCommands, WritesACommandOfWhichOnlyTheCommentChanged) {
+    Load({Listed(1, L"a", true)});
+    auto changed = Listed(1, L"a", true);
+    changed.command.comment = L"another";
+
+    EXPECT_EQ(Save({changed}), 0U);
+
+    EXPECT_EQ(file.log, L"write;");
+    EXPECT_EQ(file.Read().commands.front().comment, L"another");
+}
+
+TEST_F(SavingUserCommands, WritesTheCommandsAgainWhenTheirFileIsGone) {
+    Load({Listed(1, L"a", true)});
+    user.sections.clear();
+
+    EXPECT_EQ(Save({Listed(1, L"a", true)}), 0U);
+
+    EXPECT_EQ(file.log, L"write;");
+}
+
+TEST_F(SavingUserCommands, NeverDeletesAFileThatCouldNotBeRead) {
+    loaded.condition = FileCondition::kUnreadable;
+    file.condition = FileCondition::kUnreadable;
+
+    EXPECT_EQ(Save({}), 0U);
+
+    EXPECT_EQ(file.log, L"");
+}
+
+TEST_F(SavingUserCommands, NeverDeletesAFileThatWasOnlyHeldWhileTheListWasMade) {
+    Load({Listed(1, L"a", true)});
+    loaded = {FileCondition::kUnreadable, {}};
+
+    EXPECT_EQ(Save({}), 0U);
+
+    EXPECT_EQ(file.log, L"");
+    EXPECT_EQ(SearchCommandTable{user}.NameOf(1), L"a");
+}
+
+TEST_F(SavingUserCommands, LeavesAFileAloneThatIsHeldNow) {
+    Load({Listed(1, L"a", true)});
+    file.condition = FileCondition::kUnreadable;
+
+    EXPECT_EQ(Save({Listed(1, L"a", true)}), 0U);
+
+    EXPECT_EQ(file.log, L"");
+}
+
+TEST_F(SavingUserCommands, KeepsACopyOfWhatWasNotReadBeforeItIsReplaced) {
+    Load({Listed(1, L"a", true)});
+    file.condition = FileCondition::kUnreadable;
+    EXPECT_EQ(Save({Listed(1, L"new", true)}), 0U);
+    EXPECT_EQ(file.log, L"copy;write;");
+
+    // Held while the list was made, and to be read again now.
+    file.log.clear();
+    loaded = {FileCondition::kUnreadable, {}};
+    file.condition = FileCondition::kGood;
+    EXPECT_EQ(Save({Listed(1, L"newer", true)}), 0U);
+    EXPECT_EQ(file.log, L"copy;write;");
+}
+
+TEST_F(SavingUserCommands, KeepsACopyOfAPartlyReadFileBeforeItIsDeleted) {
+    Load({Listed(1, L"a", true)});
+    loaded.condition = FileCondition::kUnreadable;
+    file.condition = FileCondition::kUnreadable;
+
+    EXPECT_EQ(Save({}), 0U);
+
+    EXPECT_EQ(file.log, L"copy;delete;");
+}
+
+TEST_F(SavingUserCommands, KeepsACopyOfWhatAnotherHandHasWritten) {
+    Load({Listed(1, L"a", true)});
+    loaded.condition = FileCondition::kForeign;
+    file.condition = FileCondition::kForeign;
+
+    EXPECT_EQ(Save({Listed(1, L"new", true)}), 0U);
+
+    EXPECT_EQ(file.log, L"copy;write;");
+}
+
+TEST_F(SavingUserCommands, KeepsACopyOfWhatCameIntoTheFileMeanwhile) {
+    Load({Listed(1, L"a", true)});
+    user.sections[L"SearchCommand_02"][L"CommandName"] = std::wstring{L"of another"};
+
+    EXPECT_EQ(Save({Listed(1, L"new", true)}), 0U);
+
+    EXPECT_EQ(file.log, L"copy;write;");
+}
+
+TEST_F(SavingUserCommands, ReplacesNothingOfWhichNoCopyCanBeKept) {
+    file.condition = FileCondition::kUnreadable;
+    file.copyError = 32;
+
+    EXPECT_EQ(Save({Listed(1, L"new", true)}), 32U);
+
+    EXPECT_EQ(file.log, L"copy;");
     EXPECT_EQ(settings.log, L"");
-}
-
-TEST(IniValue, LeavesOrdinaryTextsAlone) {
-    EXPECT_EQ(AsIniValue(L""), L"");
-    EXPECT_EQ(AsIniValue(L"Web 検索"), L"Web 検索");
-    EXPECT_EQ(AsIniValue(L"\"<%Everything%>\" -search x"), L"\"<%Everything%>\" -search x");
-    EXPECT_EQ(AsIniValue(L"\""), L"\"");
-}
-
-TEST(IniValue, ShieldsWhatAReaderTakesAway) {
-    EXPECT_EQ(AsIniValue(L"\"a\" \"b\""), L"\"\"a\" \"b\"\"");
-    EXPECT_EQ(AsIniValue(L"'a'"), L"\"'a'\"");
-    EXPECT_EQ(AsIniValue(L" "), L"\" \"");
-    EXPECT_EQ(AsIniValue(L"a\t"), L"\"a\t\"");
-}
-
-TEST(IniValue, StaysOnOneLine) {
-    EXPECT_EQ(AsIniValue(L"a\r\n[SearchCommand_01]"), L"a  [SearchCommand_01]");
 }
 
 TEST(SavingStandardSelection, WritesAllNumbersAsTheOrderAndTheCheckedAsTheSelection) {

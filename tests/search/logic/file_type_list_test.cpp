@@ -48,6 +48,13 @@ TEST(FileTypeList, NeedsNoLineFeedAtTheEnd) {
     EXPECT_THAT(FileTypeList::Restore(L"*.c\n*.h").Entries(), ElementsAre(L"*.c", L"*.h"));
 }
 
+TEST(FileTypeList, ReadsAHundredEntriesOfAListThatHasMillions) {
+    std::wstring kept;
+    for (int i = 0; i < 2'000'000; ++i) kept += L"*.c\n";
+
+    EXPECT_EQ(FileTypeList::Restore(kept).Entries().size(), 100U);
+}
+
 TEST(FileTypeList, SkipsEmptyLines) {
     EXPECT_THAT(FileTypeList::Restore(L"\n\n*.c\n \n\n*.h\n\n").Entries(), ElementsAre(L"*.c", L"*.h"));
 }

@@ -119,12 +119,8 @@ TEST(History, SavesTheNewestAndRemovesWhatWasThere) {
 
     EXPECT_TRUE(Numbered(12).Save(store, kList, 5));
 
-    EXPECT_EQ(store.log, L"delete Settings\\RecentSearchList\n"
-                         L"Settings\\RecentSearchList.ListItem01=text 12\n"
-                         L"Settings\\RecentSearchList.ListItem02=text 11\n"
-                         L"Settings\\RecentSearchList.ListItem03=text 10\n"
-                         L"Settings\\RecentSearchList.ListItem04=text 9\n"
-                         L"Settings\\RecentSearchList.ListItem05=text 8\n");
+    EXPECT_THAT(History::Restore(store, kList).Entries(),
+                ElementsAre(L"text 12", L"text 11", L"text 10", L"text 9", L"text 8"));
     EXPECT_EQ(store.sections[std::wstring{kList.section}].size(), 5U);
 }
 
@@ -149,9 +145,29 @@ TEST(History, SavesNoneForANumberBelowOne) {
     }
 }
 
+TEST(History, LosesNoEntryThatStaysWhereverItsSavingEnds) {
+    auto history = Numbered(8);
+    FakeStore before;
+    history.Save(before, kList, 8);
+    history.Add(L"text 3");
+    history.Add(L"new");
+
+    for (int writes = 0;; ++writes) {
+        FakeStore store;
+        store.sections = before.sections;
+        store.writesThatSucceed = writes;
+        const bool whole = history.Save(store, kList, 8);
+
+        const auto restored = History::Restore(store, kList).Entries();
+        for (const wchar_t* const kept : {L"text 2", L"text 3", L"text 4", L"text 5", L"text 6", L"text 7", L"text 8"})
+            EXPECT_THAT(restored, testing::Contains(kept)) << writes;
+        if (whole) break;
+    }
+}
+
 TEST(History, SaysWhenItCannotBeSaved) {
     FakeStore store;
-    store.writesThatSucceed = 1;
+    store.writesThatSucceed = 0;
 
     EXPECT_FALSE(With({L"a"}).Save(store, kList, 5));
 }
@@ -202,9 +218,7 @@ TEST(Histories, SaveTheCommandBoxFirst) {
 
     histories.SaveIfWanted(store);
 
-    EXPECT_EQ(store.log, L"delete Settings\\RecentCommandList\n"
-                         L"Settings\\RecentCommandList.ListItem01=notepad\n"
-                         L"delete Settings\\RecentSearchList\n"
+    EXPECT_EQ(store.log, L"Settings\\RecentCommandList.ListItem01=notepad\n"
                          L"Settings\\RecentSearchList.ListItem01=tokyo\n");
 }
 

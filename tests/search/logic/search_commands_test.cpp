@@ -96,11 +96,11 @@ TEST(NumberList, ReadsAPieceWithoutANumberAsZero) {
     EXPECT_THAT(ParseNumberList(L" 4 ,5b,-2"), ElementsAre(4, 5, -2));
 }
 
-TEST(NumberList, ReadsALongListOnce) {
+TEST(NumberList, IsReadUpToASensibleLength) {
     std::wstring list;
     for (int i = 0; i < 100'000; ++i) list += L"9,";
 
-    EXPECT_EQ(ParseNumberList(list).size(), 100'000U);
+    EXPECT_EQ(ParseNumberList(list).size(), 500U);
 }
 
 TEST(NumberList, IsWrittenWithoutACommaAtTheEnd) {
@@ -179,6 +179,61 @@ TEST_F(SearchMenu, SeparatesTheSixthCommand) {
     Select(keys::DefaultSearchCommand, L"1,2,3,4,5,6");
 
     EXPECT_EQ(Shape(Plan()), L"5001 5002 5003 5004 5005 | 5006 | 5000");
+}
+
+TEST(SearchCommandId, IsMadeOnlyOfANumberThatTheMenuHasRoomFor) {
+    EXPECT_EQ(MenuCommandId(kStandard, 1), (SearchCommandId{kStandard, 1}));
+    EXPECT_EQ(MenuCommandId(kStandard, 102), SearchCommandId{5102});
+    EXPECT_EQ(MenuCommandId(kUser, 51), SearchCommandId{5102});
+    for (const auto kind : {kStandard, kUser})
+        for (const int number : {0, -1, 103, 2'147'483'647, -2'147'483'647 - 1})
+            EXPECT_EQ(MenuCommandId(kind, number), std::nullopt) << number;
+    EXPECT_EQ(MenuCommandId(kUser, 52), std::nullopt);
+}
+
+// A store that counts how often it is read.
+class CountingStore final : public settings::ProfileStore {
+public:
+    explicit CountingStore(const FakeStore& store) : store_{store} {}
+    mutable int reads = 0;
+
+    [[nodiscard]] int ReadInt(std::wstring_view section, std::wstring_view name, int fallback) const override {
+        return ++reads, store_.ReadInt(section, name, fallback);
+    }
+    [[nodiscard]] std::wstring ReadText(std::wstring_view section, std::wstring_view name,
+                                        std::wstring_view fallback) const override {
+        return ++reads, store_.ReadText(section, name, fallback);
+    }
+    [[nodiscard]] std::optional<std::vector<std::byte>> ReadBinary(std::wstring_view,
+                                                                   std::wstring_view) const override {
+        return std::nullopt;
+    }
+    [[nodiscard]] std::vector<std::wstring> ValueNames(std::wstring_view) const override { return {}; }
+    bool WriteInt(std::wstring_view, std::wstring_view, int) override { return false; }
+    bool WriteText(std::wstring_view, std::wstring_view, std::wstring_view) override { return false; }
+    bool WriteBinary(std::wstring_view, std::wstring_view, std::span<const std::byte>) override { return false; }
+    bool DeleteValue(std::wstring_view, std::wstring_view) override { return false; }
+    bool DeleteSection(std::wstring_view) override { return false; }
+
+private:
+    const FakeStore& store_;
+};
+
+TEST_F(SearchMenu, LooksForFewOfTheMillionsOfNumbersOfADamagedList) {
+    std::wstring list;
+    for (int i = 0; i < 3'000'000; ++i) list += L"77,";
+    Select(keys::DefaultSearchCommand, list);
+    const CountingStore file{standard};
+
+    static_cast<void>(PlanSearchMenu({settings, file, user}, L"settings"));
+
+    EXPECT_LE(file.reads, 500);
+}
+
+TEST_F(SearchMenu, ReadsNoMoreThanAThousandCommandsOfOneFile) {
+    FillUser(1'200);
+
+    EXPECT_EQ(SearchCommandTable{user}.ReadAll().size(), 1'000U);
 }
 
 TEST_F(SearchMenu, SkipsNumbersWithoutACommand) {

@@ -16,6 +16,7 @@ TEST(DataFolderPath, PutsNoSecondBackslashBehindTheRootOfADrive) {
 TEST(DataFolderPath, AppendsTheFileNamesDirectly) {
     EXPECT_EQ(CommandFileIn(L"D:\\Dunmere Software\\Korvane\\"), L"D:\\Dunmere Software\\Korvane\\Korvane.dat");
     EXPECT_EQ(UserCommandFileIn(L"D:\\Dunmere Software\\Korvane\\"), L"D:\\Dunmere Software\\Korvane\\UserCommand.dat");
+    EXPECT_EQ(CopyOfUserCommandFile(L"D:\\a.dat\\UserCommand.dat"), L"D:\\a.dat\\UserCommand.bak");
 }
 
 } // namespace
