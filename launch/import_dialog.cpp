@@ -200,12 +200,24 @@ void CImportDialog::Collect() {
 
 void CImportDialog::ShowScanning(bool scanning) {
     const HWND stop = Control(IDC_IMPORT_STOP);
-    if (scanning) SetText(IDC_IMPORT_PROGRESS, fw::FormatResource(IDS_IMPORT_PROGRESS, list_.Count()));
+    const ImportNote note = NoteFor(scanning, list_.AnySelectable());
+    if (note == ImportNote::kSearching)
+        SetText(IDC_IMPORT_PROGRESS, fw::FormatResource(IDS_IMPORT_PROGRESS, list_.Count()));
+    if (note == ImportNote::kNothingFound) SetText(IDC_IMPORT_PROGRESS, fw::LoadText(IDS_IMPORT_NONE));
     // A hidden control that kept the focus would leave the keyboard without effect.
     if (!scanning && ::GetFocus() == stop)
         ::SendMessageW(Handle(), WM_NEXTDLGCTL, reinterpret_cast<WPARAM>(list_.Handle()), TRUE);
-    ::ShowWindow(Control(IDC_IMPORT_PROGRESS), scanning ? SW_SHOWNA : SW_HIDE);
+    ::ShowWindow(Control(IDC_IMPORT_PROGRESS), note != ImportNote::kNone ? SW_SHOWNA : SW_HIDE);
     ::ShowWindow(stop, scanning ? SW_SHOWNA : SW_HIDE);
+    EnableOk();
+}
+
+void CImportDialog::EnableOk() {
+    const HWND ok = Control(IDOK);
+    const bool enabled = list_.AnySelectable();
+    if (!enabled && ::GetFocus() == ok)
+        ::SendMessageW(Handle(), WM_NEXTDLGCTL, reinterpret_cast<WPARAM>(Control(IDC_IMPORT_SOURCE)), TRUE);
+    ::EnableWindow(ok, enabled);
 }
 
 void CImportDialog::ShowCounts() {
@@ -229,6 +241,8 @@ void CImportDialog::OnStop() {
 }
 
 void CImportDialog::OnOk() {
+    // Enter comes here also while the button is greyed.
+    if (!list_.AnySelectable()) return;
     scan_.Stop();
     for (const ImportableItem* found : list_.Selected()) {
         CLaunchItem item;

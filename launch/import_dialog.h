@@ -78,6 +78,7 @@ private:
     // Puts what has been found into the list, and ends the waiting when that was all.
     void Collect();
     void ShowScanning(bool scanning);
+    void EnableOk();
     void ShowCounts();
     void SetText(int id, const std::wstring& text);
 

@@ -65,6 +65,10 @@ int CImportListBox::SelectedCount() const {
     return static_cast<int>(std::count_if(rows_.begin(), rows_.end(), [](const Row& row) { return row.selected; }));
 }
 
+bool CImportListBox::AnySelectable() const {
+    return std::ranges::any_of(rows_, [](const Row& row) { return row.item.selectable; });
+}
+
 std::vector<const ImportableItem*> CImportListBox::Selected() const {
     std::vector<const ImportableItem*> selected;
     for (const Row& row : rows_)

@@ -51,6 +51,8 @@ public:
 
     [[nodiscard]] int Count() const { return static_cast<int>(rows_.size()); }
     [[nodiscard]] int SelectedCount() const;
+    // True when there is a row that could be selected, had it a place.
+    [[nodiscard]] bool AnySelectable() const;
     // From top to bottom.
     [[nodiscard]] std::vector<const ImportableItem*> Selected() const;
 

@@ -7,6 +7,7 @@
 #include "framework/gdi.h"
 #include "launch/logic/launch_page.h"
 #include "launch/logic/launch_row_layout.h"
+#include "launch/logic/path_parts.h"
 
 namespace korvane::launch {
 namespace {
@@ -21,10 +22,26 @@ COLORREF TextColourOf(int row) {
                                                                              : ::GetSysColor(COLOR_WINDOWTEXT);
 }
 
+int WidthOf(HDC dc, const std::wstring& text) {
+    SIZE extent{};
+    ::GetTextExtentPoint32W(dc, text.c_str(), static_cast<int>(text.size()), &extent);
+    return static_cast<int>(extent.cx);
+}
+
 void DrawLine(HDC dc, const base::Rect& place, const std::wstring& text, UINT ellipsis) {
     RECT r = fw::ToWindows(place);
+    // The letters may be higher than their line, but are never to be wider.
     ::DrawTextW(dc, text.c_str(), static_cast<int>(text.size()), &r,
                 DT_SINGLELINE | DT_VCENTER | DT_NOPREFIX | DT_NOCLIP | ellipsis);
+}
+
+// Windows shortens a path in its middle and leaves the file's name whole, however wide it is.
+void DrawPath(HDC dc, const base::Rect& place, const std::wstring& path) {
+    const std::wstring leastOfIt = ShortestPath(path);
+    if (WidthOf(dc, path) > place.Width() && WidthOf(dc, leastOfIt) > place.Width())
+        DrawLine(dc, place, leastOfIt, DT_END_ELLIPSIS);
+    else
+        DrawLine(dc, place, path, DT_PATH_ELLIPSIS);
 }
 
 } // namespace
@@ -110,7 +127,7 @@ void CLaunchMenuListBox::DrawRow(HDC dc, int row, const base::Rect& place, bool 
     ::SetBkMode(dc, TRANSPARENT);
     ::SetTextColor(dc, TextColourOf(row));
     DrawLine(dc, layout.firstLine, RowLabel(row) + L" " + item->Name(), DT_END_ELLIPSIS);
-    DrawLine(dc, layout.secondLine, item->Path(), DT_PATH_ELLIPSIS);
+    DrawPath(dc, layout.secondLine, item->Path());
 }
 
 } // namespace korvane::launch

@@ -47,7 +47,8 @@ COptExtraPage::COptExtraPage(settings::ProfileStore& store, HICON smallIcon, abo
     : store_{store}, smallIcon_{smallIcon}, help_{help} {}
 
 bool COptExtraPage::OnInitDialog(HWND) {
-    if (!fw::TakePlace(list_, Handle(), IDC_LAUNCH_LIST)) return false;
+    // The empty list of the template has put its scroll bar away, and with it the style that asks for one.
+    if (!fw::TakePlace(list_, Handle(), IDC_LAUNCH_LIST, {.with = WS_VSCROLL})) return false;
     list_.SetLineHeight(LineHeightFor(Handle()));
     SizeList();
     FillList();

@@ -15,6 +15,7 @@
 #include "framework/monitors.h"
 #include "framework/string_table.h"
 #include "framework/window_text.h"
+#include "launch/logic/options_fit.h"
 
 namespace korvane::launch {
 namespace {
@@ -75,6 +76,8 @@ bool COptionDialog::OnInitDialog(HWND) {
     }
     FillTree();
     GoTo(startPage_);
+    fullSize_ = fw::WindowRect(Handle()).Extent();
+    FitInto(fw::WorkAreaOf(Handle()).Extent());
     fw::CentreWindow(Handle(), nullptr, fw::CentreOn::kCurrentMonitor);
     ::SetFocus(Control(IDC_OPTION_TREE));
     return false;
@@ -86,10 +89,63 @@ bool COptionDialog::CreatePages() {
     RECT place{};
     ::GetWindowRect(placeholder, &place);
     ::MapWindowPoints(nullptr, Handle(), reinterpret_cast<POINT*>(&place), 2);
+    pagePlace_ = fw::FromWindows(place);
     // Behind the placeholder also in the tab order: after the tree and before the buttons.
     for (const OptionPage page : kOptionPages)
         ::SetWindowPos(PageWindow(page), placeholder, place.left, place.top, 0, 0, SWP_NOSIZE | SWP_NOACTIVATE);
     return true;
+}
+
+void COptionDialog::FitInto(base::Size area) {
+    const base::Size bars{::GetSystemMetrics(SM_CXVSCROLL), ::GetSystemMetrics(SM_CYHSCROLL)};
+    const OptionsFit fit = FitOptions(fullSize_, pagePlace_.Extent(), area, bars);
+    if (fit.scrolled) {
+        if (!ShowThroughView(base::Rect::At(pagePlace_.TopLeft(), fit.page))) return;
+    } else if (view_.Handle()) {
+        ShowWhole();
+    }
+    const base::Size stretched{fit.window.width - fullSize_.width, fit.window.height - fullSize_.height};
+    if (stretched == stretched_) return;
+    Stretch({stretched.width - stretched_.width, stretched.height - stretched_.height});
+    stretched_ = stretched;
+    ::SetWindowPos(Handle(), nullptr, 0, 0, fit.window.width, fit.window.height,
+                   SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
+    ::InvalidateRect(Handle(), nullptr, TRUE);
+}
+
+bool COptionDialog::ShowThroughView(const base::Rect& place) {
+    if (!view_.Handle()) {
+        if (!view_.Open(Handle(), Control(IDC_PAGE_PLACE))) return false;
+        for (const OptionPage page : kOptionPages) ::SetParent(PageWindow(page), view_.Handle());
+    }
+    view_.Show(place, pagePlace_.Extent());
+    return true;
+}
+
+void COptionDialog::ShowWhole() {
+    for (const OptionPage page : kOptionPages) {
+        ::SetParent(PageWindow(page), Handle());
+        ::SetWindowPos(PageWindow(page), Control(IDC_PAGE_PLACE), pagePlace_.left, pagePlace_.top, 0, 0,
+                       SWP_NOSIZE | SWP_NOACTIVATE);
+    }
+    ::DestroyWindow(view_.Handle());
+}
+
+void COptionDialog::Stretch(base::Size by) {
+    const auto placeOf = [this](HWND control) {
+        RECT r = fw::ToWindows(fw::WindowRect(control));
+        ::MapWindowPoints(nullptr, Handle(), reinterpret_cast<POINT*>(&r), 2);
+        return fw::FromWindows(r);
+    };
+    for (const int id : {IDC_OPTIONS_OK, IDCANCEL, IDC_DIALOG_HELP}) {
+        const base::Rect place = placeOf(Control(id)).Offset(by.width, by.height);
+        ::SetWindowPos(Control(id), nullptr, place.left, place.top, 0, 0, SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
+    }
+    const HWND tree = Control(IDC_OPTION_TREE);
+    const base::Size extent = placeOf(tree).Extent();
+    ::SetWindowPos(tree, nullptr, 0, 0, extent.width, std::max(extent.height + by.height, 0),
+                   SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
+    logoPlace_.y += by.height;
 }
 
 void COptionDialog::FillTree() {
@@ -205,6 +261,7 @@ HBRUSH COptionDialog::OnStaticColour(const fw::Message& message) {
 
 fw::Reply COptionDialog::OnDisplayChange(UINT, SIZE) {
     // The screen may have become smaller, or the dialog's own may be gone.
+    FitInto(fw::WorkAreaOf(Handle()).Extent());
     const base::Rect window = fw::WindowRect(Handle());
     const auto holdsAll = [&](const base::Rect& area) { return base::Intersection(area, window) == window; };
     if (!std::ranges::any_of(fw::WorkAreas(), holdsAll))

@@ -13,6 +13,7 @@
 #include "framework/image_list.h"
 #include "launch/logic/option_pages.h"
 #include "launch/opt_extra_page.h"
+#include "launch/page_view.h"
 #include "res/ids.h"
 #include "search/opt_command_page.h"
 
@@ -55,6 +56,9 @@ public:
 
     // Shows another page, unless the one on view holds input that it cannot leave.
     void GoTo(OptionPage page);
+    // Makes the dialog small enough for an area of that size, or as large as it is meant: then its pages are seen
+    // through a view that scrolls, and all that stands around them stays in reach.
+    void FitInto(base::Size area);
 
 private:
     bool OnInitDialog(HWND firstControl);
@@ -73,6 +77,11 @@ private:
 
     bool CreatePages();
     void FillTree();
+    // The view's place is in the dialog.
+    bool ShowThroughView(const base::Rect& place);
+    void ShowWhole();
+    // Moves and sizes what stands around the pages by how much wider and higher the dialog has become.
+    void Stretch(base::Size by);
     [[nodiscard]] HWND PageWindow(OptionPage page) const;
     // The page of the selected tree item; the first when none is selected.
     [[nodiscard]] OptionPage CurrentPage() const;
@@ -86,6 +95,11 @@ private:
     controls::COptMainPage mainPage_;
     search::COptCommandPage commandPage_;
     COptExtraPage launchPage_;
+
+    base::Size fullSize_;
+    base::Rect pagePlace_;
+    base::Size stretched_; // how much wider and higher than the full size it is
+    PageView view_;
 
     fw::UniqueImageList treeImages_;
     fw::PngImage logo_;

@@ -382,6 +382,7 @@
 #define IDS_IMPORT_ELSEWHERE        333
 #define IDS_IMPORT_FOLDER_PROMPT    334
 #define IDS_IMPORT_PROGRESS         335
+#define IDS_IMPORT_NONE             336
 
 #define IDS_DELETE_COMMAND          1034
 #define IDS_CONFIRM_EXIT            57665

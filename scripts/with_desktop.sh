@@ -1,15 +1,18 @@
 #!/usr/bin/env bash
-# with_desktop.sh [--screen WxH] [--arch win32|win64] [--font FILE] [--wine-desktop] [--name NAME] -- COMMAND [ARGUMENT...]
+# with_desktop.sh [--screen WxH] [--dpi DPI] [--arch win32|win64] [--font FILE] [--wine-desktop] [--name NAME]
+#                 -- COMMAND [ARGUMENT...]
 # Runs a command on a desktop of its own: a virtual screen, a window manager and a freshly cloned Wine prefix with a
-# warm server. All of it is gone afterwards. --font adds a font to that Windows; with --wine-desktop Wine itself plays the
-# desktop in one window of the screen, and there is no window manager. Ends with the command's exit code.
+# warm server. All of it is gone afterwards. --font adds a font to that Windows, --dpi gives it another scale than 96;
+# with --wine-desktop Wine itself plays the desktop in one window of the screen, and there is no window manager. Ends
+# with the command's exit code.
 set -euo pipefail
 . "$(dirname "${BASH_SOURCE[0]}")/lib.sh"
 
-screen=1920x1080 arch=win32 name=desktop wine_desktop=no fonts=()
+screen=1920x1080 dpi=96 arch=win32 name=desktop wine_desktop=no fonts=()
 while [ $# -gt 0 ]; do
     case $1 in
     --screen) screen=$2 && shift 2 ;;
+    --dpi) dpi=$2 && shift 2 ;;
     --arch) arch=$2 && shift 2 ;;
     --name) name=$2 && shift 2 ;;
     --wine-desktop) wine_desktop=yes && shift ;;
@@ -71,6 +74,7 @@ if [ "$wine_desktop" = yes ]; then
     (wine_server -k) && (wine_server -w) || true
     (wine_server -p60)
 fi
+[ "$dpi" = 96 ] || quietly wine reg add 'HKCU\Control Panel\Desktop' /v LogPixels /t REG_DWORD /d "$dpi" /f
 # Windows' desktop belongs to a process that the first program starts and that ends soon after the last one. Started and
 # held by a shell that waits for input, it costs no test its time and keeps no test's output open.
 mkfifo "$desktop/input"

@@ -43,6 +43,13 @@ enum class SourceStep : std::uint8_t { kNothing, kAskForFolder, kScanSpecialFold
 // that follow it in the list would be lost at the next start, so such a shortcut is not offered.
 [[nodiscard]] bool CanBeKept(const LaunchLineParts& parts);
 
+// What stands beside the buttons: that it is being searched, or that all of it came to nothing.
+enum class ImportNote : std::uint8_t { kNone, kSearching, kNothingFound };
+[[nodiscard]] constexpr ImportNote NoteFor(bool searching, bool anySelectable) {
+    if (searching) return ImportNote::kSearching;
+    return anySelectable ? ImportNote::kNone : ImportNote::kNothingFound;
+}
+
 struct ImportRow {
     bool selectable;
     bool selected;

@@ -32,6 +32,11 @@ std::wstring_view FolderOf(std::wstring_view path) {
     return slash == kNone ? std::wstring_view{} : path.substr(0, slash + 1);
 }
 
+std::wstring ShortestPath(std::wstring_view path) {
+    const std::size_t slash = path.find_last_of(L'\\');
+    return slash == kNone ? std::wstring{path} : std::wstring{L"..."}.append(path.substr(slash));
+}
+
 bool IsProgramExtension(std::wstring_view extension) {
     constexpr std::array<std::wstring_view, 3> kPrograms{L".exe", L".com", L".bat"};
     return std::any_of(kPrograms.begin(), kPrograms.end(), [extension](std::wstring_view program) {

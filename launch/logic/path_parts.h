@@ -14,6 +14,9 @@ namespace korvane::launch {
 // With the backslash at its end; empty when no folder is named.
 [[nodiscard]] std::wstring_view FolderOf(std::wstring_view path);
 
+// What is left of a path that is shortened in its middle as far as that goes: dots for all the folders.
+[[nodiscard]] std::wstring ShortestPath(std::wstring_view path);
+
 // Whether it is one of the programs that Windows starts by themselves: ".exe", ".com" and ".bat".
 [[nodiscard]] bool IsProgramExtension(std::wstring_view extension);
 

@@ -128,7 +128,10 @@ void CommandLists::Insert(std::size_t row, SearchCommand command) {
 }
 
 void CommandLists::Add(SearchCommand command) {
-    if (Actions().add) Insert(Shown().size(), std::move(command));
+    if (!Actions().add) return;
+    const std::size_t row = Shown().size();
+    Insert(row, std::move(command));
+    SetChecked(row, true);
 }
 
 void CommandLists::Replace(SearchCommand command) {

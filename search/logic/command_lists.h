@@ -75,7 +75,8 @@ public:
     void MoveUp();
     void MoveDown();
 
-    // Behind the user's last command. It becomes selected, but is not checked.
+    // Behind the user's last command. It becomes selected, and checked while one more may be: whoever makes a command
+    // looks for it in the menu.
     void Add(SearchCommand command);
     // Gives the selected command new texts.
     void Replace(SearchCommand command);

@@ -238,6 +238,44 @@ TEST_F(ImportDialog, ScansTheUsersStartMenuWhenItOpens) {
     EXPECT_EQ(Text(1048), Counts(0, 2, 35));
 }
 
+TEST_F(ImportDialog, SaysWhenThereIsNothingToImport) {
+    Put(L"programs\\grey.lnk");
+    OpenAndSettle();
+
+    EXPECT_TRUE(Shown(IDC_IMPORT_PROGRESS));
+    EXPECT_EQ(Text(IDC_IMPORT_PROGRESS), L"インポートできるショートカットはありません。");
+    EXPECT_FALSE(::IsWindowEnabled(Control(IDOK)));
+    EXPECT_FALSE(Shown(IDC_IMPORT_STOP));
+
+    // As Enter does.
+    Command(IDOK);
+    EXPECT_FALSE(dialog->Confirmed());
+}
+
+TEST_F(ImportDialog, TakesThatBackForASourceThatHasSomething) {
+    Put(L"common\\a.lnk");
+    OpenAndSettle();
+    EXPECT_FALSE(::IsWindowEnabled(Control(IDOK)));
+
+    Choose(1);
+    Settle();
+
+    EXPECT_FALSE(Shown(IDC_IMPORT_PROGRESS));
+    EXPECT_TRUE(::IsWindowEnabled(Control(IDOK)));
+}
+
+TEST_F(ImportDialog, HasRoomForWhatItSaysOfNothing) {
+    OpenAndSettle();
+
+    const HWND note = Control(IDC_IMPORT_PROGRESS);
+    const fw::WindowDc dc{note};
+    const fw::SelectedObject font{dc.Get(), reinterpret_cast<HFONT>(Send(note, WM_GETFONT))};
+    const std::wstring text = fw::WindowText(note);
+    SIZE needed{};
+    ASSERT_TRUE(::GetTextExtentPoint32W(dc.Get(), text.c_str(), static_cast<int>(text.size()), &needed));
+    EXPECT_LE(needed.cx * 6 / 5, fw::WindowRect(note).Width());
+}
+
 TEST_F(ImportDialog, ScansTheStartMenuOfAllUsers) {
     Put(L"programs\\mine.lnk");
     Put(L"common\\a.lnk");

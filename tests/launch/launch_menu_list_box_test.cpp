@@ -140,6 +140,34 @@ TEST_F(LaunchMenuListBox, ShortensWhatIsTooLong) {
     EXPECT_FALSE(Holds(Drawn(0), {295, 0, 300, 33}, kButtonText));
 }
 
+TEST_F(LaunchMenuListBox, EndsAPathInsideTheRowHoweverWideItsFileNameIs) {
+    const COLORREF window = ::GetSysColor(COLOR_WINDOW);
+    for (const std::wstring& path : {L"C:\\tools\\" + std::wstring(100, L'w') + L".exe", std::wstring(100, L'w'),
+                                     L"C:/tools/" + std::wstring(100, L'w')}) {
+        CLaunchItem wide;
+        wide.Set(path, L"", L"", L"道具", items.Icon(L"i.ico", kIconColour), 0);
+        list.Insert(0, &wide);
+
+        const auto row = Drawn(0);
+        EXPECT_TRUE(row.Content({295, 0, 300, 33}, window).Empty());
+        EXPECT_FALSE(row.Content({275, 17, 295, 32}, window).Empty());
+        list.Remove(0);
+    }
+}
+
+TEST_F(LaunchMenuListBox, KeepsTheFileNameOfAPathThatHasRoomForIt) {
+    CLaunchItem wide;
+    wide.Set(L"C:\\" + std::wstring(100, L'w') + L"\\ii.exe", L"", L"", L"道具", items.Icon(L"i.ico", kIconColour), 0);
+    CLaunchItem other;
+    other.Set(L"C:\\" + std::wstring(100, L'w') + L"\\ww.exe", L"", L"", L"道具", items.Icon(L"i.ico", kIconColour), 0);
+
+    list.Insert(0, &wide);
+    list.Insert(0, &other);
+
+    const auto end = [&](int row) { return Drawn(row).Picture({200, 17, 295, 32}, ::GetSysColor(COLOR_WINDOW)); };
+    EXPECT_NE(end(0), end(1));
+}
+
 TEST_F(LaunchMenuListBox, FillsTheSelectedRow) {
     list.Insert(0, &item);
 

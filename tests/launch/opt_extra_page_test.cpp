@@ -139,6 +139,22 @@ TEST_F(OptExtraPage, ShowsElevenWholeRows) {
     EXPECT_EQ(row, 2 * (metrics.tmHeight - 1) + 4);
 }
 
+TEST_F(OptExtraPage, ScrollsAsSoonAsThereIsMoreThanElevenRows) {
+    const auto scrolls = [&] { return (::GetWindowLongPtrW(Control(kList), GWL_STYLE) & WS_VSCROLL) != 0; };
+    Open(11);
+    EXPECT_FALSE(scrolls());
+
+    Open(38);
+
+    ASSERT_TRUE(scrolls());
+    SCROLLINFO range{};
+    range.cbSize = sizeof range;
+    range.fMask = SIF_ALL;
+    ASSERT_TRUE(::GetScrollInfo(Control(kList), SB_VERT, &range));
+    EXPECT_EQ(range.nMax, 37);
+    EXPECT_EQ(range.nPage, 11U);
+}
+
 TEST_F(OptExtraPage, KeepsWhatStandsBelowTheListBelowIt) {
     Open(5);
 

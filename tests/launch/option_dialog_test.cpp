@@ -65,6 +65,22 @@ protected:
             if (::GetDlgItem(child, id)) return child;
         return nullptr;
     }
+    static base::Rect PlaceIn(HWND window, HWND control) {
+        RECT r = fw::ToWindows(fw::WindowRect(control));
+        ::MapWindowPoints(nullptr, window, reinterpret_cast<POINT*>(&r), 2);
+        return fw::FromWindows(r);
+    }
+    [[nodiscard]] base::Rect ClientPlace(HWND control) const { return PlaceIn(dialog->Handle(), control); }
+    // What pages that do not fit are seen through; null when they do.
+    [[nodiscard]] HWND View() const {
+        return ::FindWindowExW(dialog->Handle(), nullptr, L"OptionPageView_WndClass", nullptr);
+    }
+    // The page in the view that holds a control.
+    [[nodiscard]] HWND OnView(int id) const {
+        for (HWND page = ::GetWindow(View(), GW_CHILD); page; page = ::GetWindow(page, GW_HWNDNEXT))
+            if (::GetDlgItem(page, id)) return page;
+        return nullptr;
+    }
     [[nodiscard]] HWND MainPage() const { return PageWith(1044); }
     [[nodiscard]] HWND CommandPage() const { return PageWith(1028); }
     [[nodiscard]] HWND LaunchPage() const { return PageWith(1057); }
@@ -377,9 +393,118 @@ TEST_F(OptionDialog, ComesBackWhenItsScreenIsGone) {
     EXPECT_GE(fw::WindowRect(dialog->Handle()).left, 0);
 }
 
+TEST_F(OptionDialog, FitsIntoAScreenThatIsTooLowForIt) {
+    Open();
+    const base::Size full = fw::WindowRect(dialog->Handle()).Extent();
+    const int spared = fw::ClientRect(dialog->Handle()).bottom - ClientPlace(Control(kOk)).bottom;
+
+    dialog->FitInto({1920, full.height - 100});
+
+    EXPECT_EQ(fw::WindowRect(dialog->Handle()).Height(), full.height - 100);
+    for (const int id : {kOk, static_cast<int>(IDCANCEL), kHelpButton}) {
+        EXPECT_EQ(fw::ClientRect(dialog->Handle()).bottom - ClientPlace(Control(id)).bottom, spared) << id;
+        EXPECT_LE(ClientPlace(Control(id)).right, fw::ClientRect(dialog->Handle()).right) << id;
+    }
+    EXPECT_LE(ClientPlace(Control(kTree)).bottom, ClientPlace(Control(kOk)).top);
+    EXPECT_LE(ClientPlace(View()).bottom, ClientPlace(Control(kOk)).top);
+    // All of the page's width is on view: the bar has its own.
+    EXPECT_EQ(fw::ClientRect(View()).Width(), fw::WindowRect(OnView(1044)).Width());
+}
+
+TEST_F(OptionDialog, KeepsItsButtonsOnAnyScreen) {
+    Open();
+
+    for (const base::Size area : {base::Size{600, 400}, base::Size{500, 250}, base::Size{1024, 300}}) {
+        dialog->FitInto(area);
+
+        const base::Rect client = fw::ClientRect(dialog->Handle());
+        for (const int id : {kOk, static_cast<int>(IDCANCEL), kHelpButton}) {
+            const base::Rect button = ClientPlace(Control(id));
+            EXPECT_EQ(base::Intersection(client, button), button) << area.width << " " << id;
+        }
+        EXPECT_LE(fw::WindowRect(dialog->Handle()).Width(), area.width);
+        EXPECT_LE(fw::WindowRect(dialog->Handle()).Height(), area.height);
+    }
+}
+
+TEST_F(OptionDialog, ReachesEveryControlOfAPageThatDoesNotFit) {
+    Open();
+    dialog->FitInto({1920, 300});
+    ::ShowWindow(dialog->Handle(), SW_SHOWNA);
+
+    for (const int id : {1068, 1045, 1046, 1020}) {
+        const HWND control = ::GetDlgItem(OnView(1044), id);
+        ::SetFocus(control);
+        Pump();
+        const base::Rect shown = fw::ClientRect(View());
+        EXPECT_EQ(base::Intersection(shown, PlaceIn(View(), control)), PlaceIn(View(), control)) << id;
+    }
+}
+
+TEST_F(OptionDialog, ScrollsAPageByTheWheelAndTheBar) {
+    Open();
+    dialog->FitInto({1920, 300});
+    const HWND page = OnView(1044);
+    const auto top = [&] { return PlaceIn(View(), page).top; };
+    ASSERT_EQ(top(), 0);
+
+    Send(page, WM_MOUSEWHEEL, MAKEWPARAM(0, static_cast<WORD>(-WHEEL_DELTA)));
+    const int afterWheel = top();
+    EXPECT_LT(afterWheel, 0);
+
+    Send(View(), WM_VSCROLL, SB_LINEDOWN);
+    EXPECT_LT(top(), afterWheel);
+    Send(View(), WM_VSCROLL, SB_BOTTOM);
+    EXPECT_EQ(PlaceIn(View(), page).bottom, fw::ClientRect(View()).bottom);
+    Send(View(), WM_VSCROLL, SB_TOP);
+    EXPECT_EQ(top(), 0);
+}
+
+TEST_F(OptionDialog, IsWalkedThroughInTheSameOrderWhenItScrolls) {
+    Open(OptionPage::kLaunch);
+    ::ShowWindow(dialog->Handle(), SW_SHOWNA);
+    const std::vector<int> whole = test::TabOrder(dialog->Handle(), kTree);
+
+    dialog->FitInto({1920, 300});
+
+    EXPECT_EQ(test::TabOrder(dialog->Handle(), kTree), whole);
+}
+
+TEST_F(OptionDialog, ChangesAndSavesPagesThatScroll) {
+    Open();
+    dialog->FitInto({1920, 300});
+
+    SelectItem(2);
+    EXPECT_TRUE(Shown(OnView(1057)));
+    EXPECT_FALSE(Shown(OnView(1044)));
+    Command(kOk);
+
+    EXPECT_TRUE(dialog->Confirmed());
+    EXPECT_NE(store.log.find(L"Settings.DesktopBarEdge="), std::wstring::npos);
+}
+
+TEST_F(OptionDialog, IsWholeAgainOnALargerScreen) {
+    Open();
+    const base::Size full = fw::WindowRect(dialog->Handle()).Extent();
+    const base::Rect ok = ClientPlace(Control(kOk));
+    const base::Rect tree = ClientPlace(Control(kTree));
+    const base::Rect page = ClientPlace(MainPage());
+
+    dialog->FitInto({400, 300});
+    dialog->FitInto({500, 250});
+    dialog->FitInto({1920, 1080});
+
+    EXPECT_EQ(fw::WindowRect(dialog->Handle()).Extent(), full);
+    EXPECT_EQ(ClientPlace(Control(kOk)), ok);
+    EXPECT_EQ(ClientPlace(Control(kTree)), tree);
+    EXPECT_EQ(ClientPlace(MainPage()), page);
+    EXPECT_EQ(View(), nullptr);
+}
+
 TEST_F(OptionDialog, GivesEverythingBack) {
     const auto once = [&] {
         Open(OptionPage::kCommands);
+        dialog->FitInto({1920, 300});
         dialog.reset();
     };
     once();

@@ -104,9 +104,10 @@ protected:
         }
         return WaitForDialogWith(program, kOptionsTree);
     }
-    // The page on view.
+    // The page on view. On a small screen it is seen through a window that scrolls.
     static HWND PageOf(HWND options) {
-        for (HWND child = ::GetWindow(options, GW_CHILD); child; child = ::GetWindow(child, GW_HWNDNEXT))
+        const HWND view = ::FindWindowExW(options, nullptr, L"OptionPageView_WndClass", nullptr);
+        for (HWND child = ::GetWindow(view ? view : options, GW_CHILD); child; child = ::GetWindow(child, GW_HWNDNEXT))
             if (ClassOf(child) == L"#32770" && ::IsWindowVisible(child)) return child;
         return nullptr;
     }

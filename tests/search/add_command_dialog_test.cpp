@@ -156,7 +156,7 @@ TEST_F(AddCommandDialog, SaysWhatEachPlaceholderDoes) {
         meanings.insert(Text(kMeaning));
     }
     EXPECT_EQ(meanings.size(), 8U);
-    EXPECT_EQ(Text(kMeaning), L"秀丸エディタで検索します。全体がこの変数だけになります。");
+    EXPECT_EQ(Text(kMeaning), L"秀丸エディタで検索します。コマンド文字列はこの変数だけになります。");
 }
 
 TEST_F(AddCommandDialog, CanBeConfirmedOnlyWithANameAndACommandLine) {

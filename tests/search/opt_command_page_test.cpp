@@ -484,7 +484,7 @@ TEST_F(OptCommandPage, GivesTheListTheFocusOfAButtonThatIsGreyed) {
     EXPECT_EQ(::GetFocus(), Control(kStandardList));
 }
 
-TEST_F(OptCommandPage, AddsACommandAtTheEndAndSelectsIt) {
+TEST_F(OptCommandPage, AddsACommandAtTheEndCheckedAndSelectsIt) {
     Open(1, 2);
     SelectUser(0);
     std::wstring title;
@@ -498,10 +498,10 @@ TEST_F(OptCommandPage, AddsACommandAtTheEndAndSelectsIt) {
     Press(kAdd);
 
     EXPECT_EQ(title, L"ユーザー定義コマンド の追加");
-    EXPECT_THAT(Rows(kUserList), ElementsAre(L"u1", L"u2", L"new"));
+    EXPECT_THAT(Rows(kUserList), ElementsAre(L"u1", L"u2", L"*new"));
     EXPECT_EQ(Cell(kUserList, 2, 1), L"comment");
     EXPECT_EQ(Selected(kUserList), 2);
-    EXPECT_EQ(Text(kStatus), L"選択コマンド数: 0 (ユーザー定義コマンド数: 3)");
+    EXPECT_EQ(Text(kStatus), L"選択コマンド数: 1 (ユーザー定義コマンド数: 3)");
 }
 
 TEST_F(OptCommandPage, AddsNothingWhenTheEditorIsCancelled) {

@@ -32,6 +32,13 @@ TEST(PathParts, TakeTheExtensionOfTheFileAlone) {
     EXPECT_EQ(ExtensionOf(L""), L"");
 }
 
+TEST(PathParts, ArePutBehindDotsWhenAPathIsShortened) {
+    EXPECT_EQ(ShortestPath(L"C:\\a b\\c.exe"), L"...\\c.exe");
+    EXPECT_EQ(ShortestPath(L"C:\\folder\\"), L"...\\");
+    EXPECT_EQ(ShortestPath(L"c.exe"), L"c.exe");
+    EXPECT_EQ(ShortestPath(L""), L"");
+}
+
 TEST(PathParts, TakeTheFolderWithItsBackslash) {
     EXPECT_EQ(FolderOf(L"C:\\a b\\c.exe"), L"C:\\a b\\");
     EXPECT_EQ(FolderOf(L"C:\\c.exe"), L"C:\\");

@@ -410,15 +410,26 @@ TEST_F(ChangingCommands, MovesNothingWithoutASelection) {
     EXPECT_THAT(Names(kStandard), ElementsAre(L"s1", L"s2"));
 }
 
-TEST_F(ChangingCommands, AddsAtTheEndUncheckedAndSelected) {
+TEST_F(ChangingCommands, AddsAtTheEndCheckedAndSelected) {
     Load(0, 2);
     Check(kUser, 2);
     Show(kUser, 0);
 
     lists.Add(Named(L"new"));
 
-    EXPECT_THAT(Names(kUser), ElementsAre(L"*u1", L"*u2", L"new"));
+    EXPECT_THAT(Names(kUser), ElementsAre(L"*u1", L"*u2", L"*new"));
     EXPECT_EQ(lists.Selected(), 2U);
+}
+
+TEST_F(ChangingCommands, AddsUncheckedWhereFiftyAreCheckedAlready) {
+    Load(50, 1);
+    Check(kStandard, 49);
+    Show(kUser, {});
+
+    lists.Add(Named(L"the 50th checked"));
+    lists.Add(Named(L"one too many"));
+
+    EXPECT_THAT(Names(kUser), ElementsAre(L"u1", L"*the 50th checked", L"one too many"));
 }
 
 TEST_F(ChangingCommands, GivesAnEditedCommandItsTextsAndNothingElse) {
