@@ -22,7 +22,7 @@ constexpr DWORD kTreeStyles = TVS_EX_DOUBLEBUFFER | TVS_EX_FADEINOUTEXPANDOS;
 static_assert(kTreeStyles == 0x44);
 constexpr int kTreeRowPx = 20;
 
-BOOL CALLBACK TakeTree(HWND child, LPARAM found) {
+BOOL CALLBACK TakeTree(HWND child, LPARAM found) noexcept {
     constexpr std::wstring_view kTree = L"SysTreeView32";
     std::array<wchar_t, 32> name{};
     ::GetClassNameW(child, name.data(), static_cast<int>(name.size()));

@@ -24,7 +24,7 @@
 namespace korvane::app {
 namespace {
 
-int CALLBACK CollectFullName(const LOGFONTW* font, const TEXTMETRICW*, DWORD, LPARAM names) {
+int CALLBACK CollectFullName(const LOGFONTW* font, const TEXTMETRICW*, DWORD, LPARAM names) noexcept {
     // With a face name given, each record is an ENUMLOGFONTEXW, of which the LOGFONTW is the head.
     const auto& full = *reinterpret_cast<const ENUMLOGFONTEXW*>(font);
     const auto* const end = std::find(std::begin(full.elfFullName), std::end(full.elfFullName), L'\0');

@@ -17,7 +17,7 @@ void RemoveHook() {
     g_centringHook = nullptr;
 }
 
-LRESULT CALLBACK OnComputerBasedTraining(int code, WPARAM wparam, LPARAM lparam) {
+LRESULT CALLBACK OnComputerBasedTraining(int code, WPARAM wparam, LPARAM lparam) noexcept {
     if (code != HCBT_ACTIVATE) return ::CallNextHookEx(g_centringHook, code, wparam, lparam);
     const HWND box = reinterpret_cast<HWND>(wparam);
     CentreWindow(box, ::GetParent(box));
