@@ -12,6 +12,7 @@
 #include "app/bar_controls.h"
 #include "app/clipboard_monitor.h"
 #include "app/logic/bar_layout.h"
+#include "app/logic/command_routes.h"
 #include "app/logic/docked_window.h"
 #include "app/logic/docking.h"
 #include "app/notification_icon.h"
@@ -220,6 +221,7 @@ private:
     void TrackFromOutside(HMENU menu);
 
     // Commands.
+    [[nodiscard]] bool TakesCommand(Route route) const;
     void ShowBarUnderCursor();
     void RunLaunchItem(UINT command);
     void RunProgram(UINT command);
@@ -305,9 +307,11 @@ private:
     std::optional<search::Box> openHistory_;
     int openCalendars_ = 0; // more than one while the next opens and the last closes
     bool inputBusy_ = false;
+    bool helpFailureShown_ = false;
 
     // Cleared only when the bar has to close itself.
     bool askBeforeExit_ = true;
+    bool exitAsked_ = false; // and not answered yet
     DWORD creationError_ = ERROR_SUCCESS;
     bool created_ = false;
 };
