@@ -39,6 +39,8 @@ CommandLists::List ReadList(const SearchStores& stores, SearchCommandKind kind) 
 CommandLists::CommandLists(const SearchStores& stores) {
     for (const auto kind : {SearchCommandKind::kStandard, SearchCommandKind::kUser})
         HalfOf(kind).list = ReadList(stores, kind);
+    for (Half& half : halves_)
+        for (auto& item : half.list) item.identity = ++lastIdentity_;
 }
 
 void CommandLists::Select(std::optional<std::size_t> row) {
@@ -48,6 +50,20 @@ void CommandLists::Select(std::optional<std::size_t> row) {
 const SearchCommand* CommandLists::SelectedCommand() const {
     const auto row = Selected();
     return row ? &Shown()[*row].command : nullptr;
+}
+
+std::optional<CommandMark> CommandLists::Mark() const {
+    const auto row = Selected();
+    return row ? std::optional{CommandMark{shown_, Shown()[*row].identity}} : std::nullopt;
+}
+
+bool CommandLists::GoBackTo(const CommandMark& mark) {
+    const List& list = Of(mark.kind);
+    const auto found = std::ranges::find(list, mark.identity, &ListedCommand::identity);
+    if (found == list.end()) return false;
+    Show(mark.kind);
+    Select(static_cast<std::size_t>(found - list.begin()));
+    return true;
 }
 
 CommandActions CommandLists::Actions() const {
@@ -122,7 +138,8 @@ void CommandLists::MoveDown() {
 
 void CommandLists::Insert(std::size_t row, SearchCommand command) {
     Half& half = HalfOf(shown_);
-    half.list.insert(std::next(half.list.begin(), static_cast<std::ptrdiff_t>(row)), {std::move(command), false});
+    half.list.insert(std::next(half.list.begin(), static_cast<std::ptrdiff_t>(row)),
+                     {std::move(command), false, ++lastIdentity_});
     half.selected = row;
 }
 

@@ -13,6 +13,8 @@ namespace korvane::search {
 struct ListedCommand {
     SearchCommand command;
     bool selected = false;
+    // Tells it from all others of its list, also from those that are the same. Given by CommandLists.
+    unsigned identity = 0;
 };
 
 // The file of the user's commands as a whole. Its sections are written through a store. Errors are Windows error
