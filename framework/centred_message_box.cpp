@@ -3,6 +3,7 @@
 #include <array>
 
 #include "framework/centring.h"
+#include "framework/icons.h"
 #include "framework/string_table.h"
 #include "res/ids.h"
 
@@ -21,6 +22,7 @@ LRESULT CALLBACK OnComputerBasedTraining(int code, WPARAM wparam, LPARAM lparam)
     if (code != HCBT_ACTIVATE) return ::CallNextHookEx(g_centringHook, code, wparam, lparam);
     const HWND box = reinterpret_cast<HWND>(wparam);
     CentreWindow(box, ::GetParent(box));
+    GiveProgramIcons(box);
     RemoveHook();
     return 1;
 }

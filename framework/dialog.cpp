@@ -2,6 +2,8 @@
 
 #include <utility>
 
+#include "framework/icons.h"
+
 namespace fw {
 namespace {
 
@@ -83,6 +85,7 @@ INT_PTR CALLBACK DialogObject::DialogProcedure(HWND window, UINT id, WPARAM wpar
         return FALSE;
     }
     // A dialog is only ever freed by OnFinalMessage, but its window may be gone after a handler.
+    if (id == WM_INITDIALOG && ::IsWindow(window)) GiveProgramIcons(window);
     if (!reply) return FALSE;
     if (ReturnsItsResult(id)) return static_cast<INT_PTR>(*reply);
     ::SetWindowLongPtrW(window, DWLP_MSGRESULT, *reply);

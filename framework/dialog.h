@@ -11,7 +11,7 @@ namespace fw {
 
 // The part of a dialog that does not depend on its class.
 //
-// A dialog below another one carries out no commands.
+// A dialog below another one carries out no commands. One that came to be without an icon of its own has the program's.
 class DialogObject : public WindowObject {
 public:
     ~DialogObject() override;

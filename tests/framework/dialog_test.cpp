@@ -5,7 +5,10 @@
 #include <functional>
 #include <string>
 
+#include "framework/icons.h"
+#include "res/image_ids.h"
 #include "tests/framework/test_ids.h"
+#include "tests/support/icon_pixels.h"
 #include "tests/support/window_test.h"
 
 namespace fw {
@@ -168,6 +171,48 @@ TEST_F(DialogTest, IsBelowWhateverItsOutermostWindowIsBelow) {
     EXPECT_TRUE(IsBelowModal(dialog.Handle()));
     EXPECT_TRUE(IsBelowModal(button));
     EXPECT_FALSE(IsBelowModal(Host()));
+}
+
+// The icon of a window, or null: small or big.
+HICON IconOf(HWND window, WPARAM size) {
+    return reinterpret_cast<HICON>(::SendMessageW(window, WM_GETICON, size, 0));
+}
+
+TEST_F(DialogTest, HasNoIconsWithoutACaption) {
+    ASSERT_TRUE(dialog.Create(Host()));
+
+    EXPECT_EQ(IconOf(dialog.Handle(), ICON_SMALL), nullptr);
+    EXPECT_EQ(IconOf(dialog.Handle(), ICON_BIG), nullptr);
+}
+
+TEST_F(DialogTest, HasTheProgramsIconsWhenItHasACaptionAndNoneOfItsOwn) {
+    dialog.onInit = [&] {
+        ::SetWindowLongPtrW(dialog.Handle(), GWL_STYLE,
+                            ::GetWindowLongPtrW(dialog.Handle(), GWL_STYLE) | WS_CAPTION | WS_SYSMENU);
+    };
+
+    ASSERT_TRUE(dialog.Create(Host()));
+
+    const UniqueIcon small = LoadResourceIcon(IDI_KORVANE, ::GetSystemMetrics(SM_CXSMICON));
+    const UniqueIcon big = LoadResourceIcon(IDI_KORVANE, ::GetSystemMetrics(SM_CXICON));
+    ASSERT_NE(IconOf(dialog.Handle(), ICON_SMALL), nullptr);
+    ASSERT_NE(IconOf(dialog.Handle(), ICON_BIG), nullptr);
+    EXPECT_EQ(korvane::test::PixelsOf(IconOf(dialog.Handle(), ICON_SMALL)), korvane::test::PixelsOf(small.Get()));
+    EXPECT_EQ(korvane::test::PixelsOf(IconOf(dialog.Handle(), ICON_BIG)), korvane::test::PixelsOf(big.Get()));
+}
+
+TEST_F(DialogTest, KeepsTheIconThatItHasOfItsOwn) {
+    const auto own = ::LoadIconW(nullptr, IDI_QUESTION);
+    dialog.onInit = [&] {
+        ::SetWindowLongPtrW(dialog.Handle(), GWL_STYLE,
+                            ::GetWindowLongPtrW(dialog.Handle(), GWL_STYLE) | WS_CAPTION | WS_SYSMENU);
+        Send(dialog.Handle(), WM_SETICON, ICON_SMALL, reinterpret_cast<LPARAM>(own));
+    };
+
+    ASSERT_TRUE(dialog.Create(Host()));
+
+    EXPECT_EQ(IconOf(dialog.Handle(), ICON_SMALL), own);
+    EXPECT_EQ(IconOf(dialog.Handle(), ICON_BIG), nullptr);
 }
 
 TEST_F(DialogTest, OutlivesItsWindow) {
