@@ -37,6 +37,15 @@ HWND TreeOf(HWND helpWindow) {
     return tree;
 }
 
+// Whom the hook below calls; it has no room for it.
+HelpSession* g_listener = nullptr;
+
+LRESULT CALLBACK OnModalMessage(int code, WPARAM wparam, LPARAM lparam) noexcept {
+    if (code == MSGF_DIALOGBOX && g_listener && g_listener->TakeFromDialogLoop(*reinterpret_cast<const MSG*>(lparam)))
+        return TRUE;
+    return ::CallNextHookEx(nullptr, code, wparam, lparam);
+}
+
 void StyleTree(HWND tree, HFONT font) {
     ::SendMessageW(tree, TVM_SETEXTENDEDSTYLE, kTreeStyles, kTreeStyles);
     if (font) {
@@ -56,6 +65,7 @@ HelpSession::HelpSession(fw::UniqueLibrary control) : control_{std::move(control
 }
 
 HelpSession::~HelpSession() {
+    if (g_listener == this) g_listener = nullptr;
     if (call_) call_(nullptr, nullptr, HH_UNINITIALIZE, cookie_);
 }
 
@@ -68,6 +78,7 @@ bool HelpSession::Show(std::wstring_view topic, HFONT treeFont) {
     }
     if (!window) return false;
     window_ = window;
+    ListenToDialogLoops();
     if (const HWND tree = TreeOf(window)) StyleTree(tree, treeFont);
     return true;
 }
@@ -77,6 +88,17 @@ bool HelpSession::PreTranslate(const MSG& message) {
     // The control may change the message.
     MSG offered = message;
     return call_(nullptr, nullptr, HH_PRETRANSLATEMESSAGE, reinterpret_cast<DWORD_PTR>(&offered)) != nullptr;
+}
+
+bool HelpSession::TakeFromDialogLoop(const MSG& message) {
+    // The filter has had the dialog's own messages, where the program's loop is the one that runs.
+    return window_ && ::GetAncestor(message.hwnd, GA_ROOT) == window_ && PreTranslate(message);
+}
+
+void HelpSession::ListenToDialogLoops() {
+    g_listener = this;
+    if (!dialogLoops_)
+        dialogLoops_.Reset(::SetWindowsHookExW(WH_MSGFILTER, &OnModalMessage, nullptr, ::GetCurrentThreadId()));
 }
 
 void HelpSession::CloseWindows() const {
