@@ -20,6 +20,7 @@
 #include "framework/string_table.h"
 #include "framework/windows_version.h"
 #include "res/ids.h"
+#include "search/code_pages.h"
 
 namespace korvane::app {
 namespace {
@@ -78,6 +79,7 @@ int RunApplication(int showCommand) {
         return kExitFontMissing;
     }
 
+    search::FollowSystemLocale();
     // Released in the opposite order, after the frame.
     const fw::GdiplusSession gdiplus;
     about::HelpSession help;
