@@ -22,7 +22,7 @@ constexpr DWORD kTreeStyles = TVS_EX_DOUBLEBUFFER | TVS_EX_FADEINOUTEXPANDOS;
 static_assert(kTreeStyles == 0x44);
 constexpr int kTreeRowPx = 20;
 
-BOOL CALLBACK TakeTree(HWND child, LPARAM found) {
+BOOL CALLBACK TakeTree(HWND child, LPARAM found) noexcept {
     constexpr std::wstring_view kTree = L"SysTreeView32";
     std::array<wchar_t, 32> name{};
     ::GetClassNameW(child, name.data(), static_cast<int>(name.size()));
@@ -35,6 +35,15 @@ HWND TreeOf(HWND helpWindow) {
     HWND tree = nullptr;
     ::EnumChildWindows(helpWindow, &TakeTree, reinterpret_cast<LPARAM>(&tree));
     return tree;
+}
+
+// Whom the hook below calls; it has no room for it.
+HelpSession* g_listener = nullptr;
+
+LRESULT CALLBACK OnModalMessage(int code, WPARAM wparam, LPARAM lparam) noexcept {
+    if (code == MSGF_DIALOGBOX && g_listener && g_listener->TakeFromDialogLoop(*reinterpret_cast<const MSG*>(lparam)))
+        return TRUE;
+    return ::CallNextHookEx(nullptr, code, wparam, lparam);
 }
 
 void StyleTree(HWND tree, HFONT font) {
@@ -56,6 +65,7 @@ HelpSession::HelpSession(fw::UniqueLibrary control) : control_{std::move(control
 }
 
 HelpSession::~HelpSession() {
+    if (g_listener == this) g_listener = nullptr;
     if (call_) call_(nullptr, nullptr, HH_UNINITIALIZE, cookie_);
 }
 
@@ -68,6 +78,7 @@ bool HelpSession::Show(std::wstring_view topic, HFONT treeFont) {
     }
     if (!window) return false;
     window_ = window;
+    ListenToDialogLoops();
     if (const HWND tree = TreeOf(window)) StyleTree(tree, treeFont);
     return true;
 }
@@ -77,6 +88,17 @@ bool HelpSession::PreTranslate(const MSG& message) {
     // The control may change the message.
     MSG offered = message;
     return call_(nullptr, nullptr, HH_PRETRANSLATEMESSAGE, reinterpret_cast<DWORD_PTR>(&offered)) != nullptr;
+}
+
+bool HelpSession::TakeFromDialogLoop(const MSG& message) {
+    // The filter has had the dialog's own messages, where the program's loop is the one that runs.
+    return window_ && ::GetAncestor(message.hwnd, GA_ROOT) == window_ && PreTranslate(message);
+}
+
+void HelpSession::ListenToDialogLoops() {
+    g_listener = this;
+    if (!dialogLoops_)
+        dialogLoops_.Reset(::SetWindowsHookExW(WH_MSGFILTER, &OnModalMessage, nullptr, ::GetCurrentThreadId()));
 }
 
 void HelpSession::CloseWindows() const {

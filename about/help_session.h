@@ -30,16 +30,23 @@ public:
     // the control is offered each message before the program sees it.
     bool PreTranslate(const MSG& message) override;
 
+    // The same for a key that arrives while a modal dialog or a message box runs a loop of its own, which knows no
+    // filters.
+    bool TakeFromDialogLoop(const MSG& message);
+
     // Closes every help window when one of this program's help file is open.
     void CloseWindows() const;
 
 private:
+    void ListenToDialogLoops();
+
     using Function = HWND WINAPI(HWND, LPCWSTR, UINT, DWORD_PTR);
 
     fw::UniqueLibrary control_;
     Function* call_ = nullptr;
     DWORD_PTR cookie_ = 0;
     HWND window_ = nullptr; // the last that was shown; the user may have closed it
+    fw::UniqueHook dialogLoops_;
 };
 
 } // namespace korvane::about

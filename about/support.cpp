@@ -6,6 +6,7 @@
 #include "about/logic/mail_link.h"
 #include "base/shell_result.h"
 #include "framework/centred_message_box.h"
+#include "framework/windows_program.h"
 #include "res/ids.h"
 
 namespace korvane::about {
@@ -33,7 +34,7 @@ INT_PTR OpenAuthorSite(const ShellOpener& open) {
 }
 
 INT_PTR ShowSystemInformation(const ShellOpener& open) {
-    return open(kOpen, L"msinfo32.exe");
+    return open(kOpen, fw::WindowsProgram(L"msinfo32.exe"));
 }
 
 void ReportFailure(HWND owner, INT_PTR shellResult) {

@@ -21,11 +21,12 @@
 #include "framework/string_table.h"
 #include "framework/windows_version.h"
 #include "res/ids.h"
+#include "search/code_pages.h"
 
 namespace korvane::app {
 namespace {
 
-int CALLBACK CollectFullName(const LOGFONTW* font, const TEXTMETRICW*, DWORD, LPARAM names) {
+int CALLBACK CollectFullName(const LOGFONTW* font, const TEXTMETRICW*, DWORD, LPARAM names) noexcept {
     // With a face name given, each record is an ENUMLOGFONTEXW, of which the LOGFONTW is the head.
     const auto& full = *reinterpret_cast<const ENUMLOGFONTEXW*>(font);
     const auto* const end = std::find(std::begin(full.elfFullName), std::end(full.elfFullName), L'\0');
@@ -79,6 +80,7 @@ int RunApplication(int showCommand) {
         return kExitFontMissing;
     }
 
+    search::FollowSystemLocale();
     // Released in the opposite order, after the frame. A copy that starts meanwhile waits for the end of this one.
     ThisCopy thisCopy;
     const fw::GdiplusSession gdiplus;

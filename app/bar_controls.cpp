@@ -5,6 +5,7 @@
 #include "framework/gdi.h"
 #include "framework/icons.h"
 #include "framework/string_table.h"
+#include "framework/windows_program.h"
 #include "launch/command_entries.h"
 #include "res/ids.h"
 
@@ -45,7 +46,7 @@ bool BarControls::Create(HWND frame, HFONT barFont, const BarLayout& at) {
     disabledToolImages_ = fw::MakeImageList({IDI_RUN_DISABLED, IDI_SEARCH_DISABLED}, size);
     runTyped.SetImageListIndex(toolImages_.Get(), disabledToolImages_.Get(), kRunImage);
     runSearch.SetImageListIndex(toolImages_.Get(), disabledToolImages_.Get(), kSearchImage);
-    controlPanel.SetIcon(fw::ExtractSmallIcon(kControlPanelProgram, 0));
+    controlPanel.SetIcon(fw::ExtractSmallIcon(fw::WindowsProgram(kControlPanelProgram), 0));
 
     constexpr DWORD kDisabledStyle = kChildStyle | WS_DISABLED;
     const auto text = &fw::LoadText;
@@ -150,7 +151,7 @@ void BarControls::ReloadLaunchButtons(const settings::ProfileStore& settings) {
         const launch::CommandEntry entry = launch::LoadCommandEntry(command++, settings);
         ::SetWindowTextW(button.Handle(), entry.name.c_str());
         button.SetTip(entry.name);
-        button.SetIcon(entry.HasIcon() ? fw::ExtractSmallIcon(entry.iconFile, entry.iconIndex) : fw::UniqueIcon{});
+        button.SetIcon(launch::IconOf(entry));
     }
 }
 

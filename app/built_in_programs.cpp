@@ -6,7 +6,6 @@
 #include <string>
 
 #include "app/logic/built_in_programs.h"
-#include "framework/icons.h"
 #include "framework/string_table.h"
 
 namespace korvane::app {
@@ -32,6 +31,7 @@ std::optional<launch::CommandEntry> BuiltInProgramEntry(UINT command) {
     const BuiltInProgram* const program = BuiltInProgramOf(command);
     if (!program) return std::nullopt;
     launch::CommandEntry entry;
+    entry.builtIn = true;
     entry.path = program->file;
     if (program->parametersId != 0) entry.arguments = fw::LoadText(program->parametersId);
     entry.workingFolder = PathOf(program->workingFolder);
@@ -47,7 +47,7 @@ INT_PTR RunBuiltInProgram(UINT command, const EntryStarter& start) {
 
 fw::UniqueIcon BuiltInProgramIcon(UINT command) {
     const auto entry = BuiltInProgramEntry(command);
-    return entry ? fw::ExtractSmallIcon(entry->iconFile, entry->iconIndex) : fw::UniqueIcon{};
+    return entry ? launch::IconOf(*entry) : fw::UniqueIcon{};
 }
 
 } // namespace korvane::app

@@ -2,8 +2,9 @@
 
 #include "app/application.h"
 #include "app/logic/start_checks.h"
+#include "framework/abnormal_end.h"
 #include "framework/centred_message_box.h"
-#include "framework/string_table.h"
+#include "framework/system_library.h"
 #include "res/ids.h"
 
 namespace {
@@ -20,6 +21,8 @@ void ShowRefusal(UINT textId) {
 } // namespace
 
 int WINAPI wWinMain(HINSTANCE, HINSTANCE, PWSTR, int showCommand) {
+    fw::TakeLibrariesFromSystemFolder();
+    fw::GuardAgainstAbnormalEnd();
     using namespace korvane::app;
     switch (CheckStart({.underWow64 = RunsUnderWow64(), .screenWidthPx = ::GetSystemMetrics(SM_CXSCREEN)})) {
     case StartRefusal::kWrongEdition:

@@ -197,8 +197,12 @@ void CMainFrame::RememberWindowRect() {
 }
 
 fw::Reply CMainFrame::OnClose() {
-    if (askBeforeExit_ && settings_.Read(keys::ConfirmExitApp) == 0 && Ask(fw::LoadText(IDS_CONFIRM_EXIT)) != IDYES)
-        return LRESULT{0};
+    // Told once more while the question stands, it waits for the answer to that.
+    if (exitAsked_) return LRESULT{0};
+    if (askBeforeExit_ && settings_.Read(keys::ConfirmExitApp) == 0) {
+        const fw::ScopedFlag asked{exitAsked_};
+        if (Ask(fw::LoadText(IDS_CONFIRM_EXIT)) != IDYES) return LRESULT{0};
+    }
     SaveState();
     docking_.Leave();
     return fw::kPassOn;

@@ -15,6 +15,7 @@
 #include "app/bar_keyboard.h"
 #include "app/clipboard_monitor.h"
 #include "app/logic/bar_layout.h"
+#include "app/logic/command_routes.h"
 #include "app/logic/docked_window.h"
 #include "app/logic/docking.h"
 #include "app/logic/wheel_steps.h"
@@ -244,6 +245,7 @@ private:
     [[nodiscard]] bool OnWheel(const MSG& message);
 
     // Commands.
+    [[nodiscard]] bool TakesCommand(Route route) const;
     void ShowBarUnderCursor();
     // Brings the bar and the keyboard to the user, wherever both are.
     void SummonBar();
@@ -334,9 +336,11 @@ private:
     std::optional<search::Box> openHistory_;
     int openCalendars_ = 0; // more than one while the next opens and the last closes
     bool inputBusy_ = false;
+    bool helpFailureShown_ = false;
 
     // Cleared only when the bar has to close itself.
     bool askBeforeExit_ = true;
+    bool exitAsked_ = false; // and not answered yet
     DWORD creationError_ = ERROR_SUCCESS;
     bool created_ = false;
 };

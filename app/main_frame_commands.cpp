@@ -8,6 +8,7 @@
 #include "app/screen_saver.h"
 #include "app/session_end.h"
 #include "controls/time_date_dialog.h"
+#include "framework/dialog.h"
 #include "framework/gdi.h"
 #include "framework/menu_rows.h"
 #include "framework/scoped_flag.h"
@@ -30,6 +31,7 @@ namespace keys = settings::keys;
 fw::Reply CMainFrame::OnCommand(UINT command) {
     const std::optional<Route> route = RouteOf(command);
     if (!route) return fw::kPassOn;
+    if (!TakesCommand(*route)) return LRESULT{0};
     switch (*route) {
     case Route::kRunTyped:
         RunTypedCommand();
@@ -105,6 +107,15 @@ fw::Reply CMainFrame::OnCommand(UINT command) {
         break;
     }
     return LRESULT{0};
+}
+
+// Below a dialog or a message the bar has no commands: what one opens would come to stand on what is open, as often as
+// it comes. Whoever asks for a dialog sees the one that there is.
+bool CMainFrame::TakesCommand(Route route) const {
+    const bool opensDialog = route == Route::kOpenOptions || route == Route::kAbout;
+    if (!fw::IsBelowModal(Handle()) || (options_ && route == Route::kOpenOptions)) return true;
+    if (opensDialog) ::SetForegroundWindow(::GetLastActivePopup(Handle()));
+    return false;
 }
 
 void CMainFrame::RunTypedCommand() {
@@ -197,6 +208,8 @@ void CMainFrame::OnDropDownClosed(Box box) {
 }
 
 void CMainFrame::OpenCalendar() {
+    // The next may open while one closes, but no more.
+    if (openCalendars_ > 1) return;
     ++openCalendars_;
     if (!controls::CTimeDateDialog::Open(*this, Handle(), loop_)) --openCalendars_;
 }

@@ -10,6 +10,9 @@ namespace korvane::app {
 
 void CMainFrame::OpenHelp(std::wstring_view topic, HWND asker) {
     if (help_.Show(topic, barFont_.Get())) return;
+    // The key for help also arrives from the message itself.
+    if (helpFailureShown_) return;
+    const fw::ScopedFlag shown{helpFailureShown_};
     const auto tell = [asker] { fw::ShowMessageById(asker, IDS_HELP_FAILED, MB_ICONEXCLAMATION); };
     // The flag of a dialog is set for as long as it is open, and the end of a scope would clear it.
     if (asker != Handle()) return tell();

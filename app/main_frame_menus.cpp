@@ -174,10 +174,8 @@ void CMainFrame::AddMenuImages() {
     for (UINT command = ID_PROGRAM_FIRST; command <= ID_PROGRAM_LAST; ++command)
         menus_.AddIcon(command, [command] { return BuiltInProgramIcon(command); });
     for (UINT command = ID_ENTRY_FIRST; command <= ID_CONTROL_PANEL_LAST; ++command)
-        menus_.AddIcon(command, [command, this] {
-            const launch::CommandEntry entry = launch::LoadCommandEntry(command, settings_);
-            return entry.HasIcon() ? fw::ExtractSmallIcon(entry.iconFile, entry.iconIndex) : fw::UniqueIcon{};
-        });
+        menus_.AddIcon(command,
+                       [command, this] { return launch::IconOf(launch::LoadCommandEntry(command, settings_)); });
     for (const UINT command : {ID_LAUNCH_SETTINGS, ID_SEARCH_SETTINGS})
         menus_.AddIcon(command, [] { return fw::LoadResourceIcon(IDI_SETTINGS, ::GetSystemMetrics(SM_CXSMICON)); });
 }

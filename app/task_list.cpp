@@ -93,7 +93,7 @@ private:
     milliseconds patience_ = kPatienceWithAll;
 };
 
-BOOL CALLBACK Collect(HWND window, LPARAM windows) {
+BOOL CALLBACK Collect(HWND window, LPARAM windows) noexcept {
     reinterpret_cast<std::vector<HWND>*>(windows)->push_back(window);
     return TRUE;
 }

@@ -1,8 +1,6 @@
 #include "app/win_shell.h"
 
-#include <cstdlib>
-#include <exception>
-
+#include "framework/abnormal_end.h"
 #include "framework/gdi.h"
 
 namespace korvane::app {
@@ -11,9 +9,8 @@ namespace {
 static_assert(static_cast<UINT>(Edge::kTop) == ABE_TOP && static_cast<UINT>(Edge::kBottom) == ABE_BOTTOM);
 static_assert(kShellMessage == 0x8001);
 
-// Shared by all ways in which a process can end on its own: what the shell would otherwise keep reserved.
+// What the shell would otherwise keep reserved for a process that ended on its own.
 HWND registeredWindow = nullptr;
-LPTOP_LEVEL_EXCEPTION_FILTER previousFilter = nullptr;
 
 void GiveStripBack() {
     if (!registeredWindow) return;
@@ -23,25 +20,6 @@ void GiveStripBack() {
     data.uCallbackMessage = kShellMessage;
     registeredWindow = nullptr;
     ::SHAppBarMessage(ABM_REMOVE, &data);
-}
-
-LONG WINAPI OnUnhandledException(EXCEPTION_POINTERS* exception) {
-    GiveStripBack();
-    return previousFilter ? previousFilter(exception) : EXCEPTION_CONTINUE_SEARCH;
-}
-
-void OnTerminate() {
-    GiveStripBack();
-    std::abort();
-}
-
-void GuardAgainstCrashes() {
-    static const bool guarded = [] {
-        previousFilter = ::SetUnhandledExceptionFilter(&OnUnhandledException);
-        std::set_terminate(&OnTerminate);
-        return true;
-    }();
-    static_cast<void>(guarded);
 }
 
 } // namespace
@@ -67,7 +45,8 @@ APPBARDATA WinShell::Data(Edge edge, LPARAM lparam) const {
 }
 
 bool WinShell::Register() {
-    GuardAgainstCrashes();
+    fw::GuardAgainstAbnormalEnd();
+    fw::SetLastAct(&GiveStripBack);
     APPBARDATA data = Data();
     registeredWindow = window_;
     return ::SHAppBarMessage(ABM_NEW, &data) != 0;

@@ -19,6 +19,7 @@ endfunction()
 
 korvane_check(formatting ${KORVANE_CHECKS}/formatting.sh ${PROJECT_SOURCE_DIR})
 korvane_check(include_rules ${KORVANE_PYTHON} ${KORVANE_CHECKS}/include_rules.py ${PROJECT_SOURCE_DIR})
+korvane_check(callbacks ${KORVANE_PYTHON} ${KORVANE_CHECKS}/callbacks.py ${PROJECT_SOURCE_DIR})
 korvane_check(control_ids ${KORVANE_PYTHON} ${KORVANE_CHECKS}/control_ids.py ${PROJECT_SOURCE_DIR})
 korvane_check(no_machine_paths ${KORVANE_PYTHON} ${KORVANE_CHECKS}/no_machine_paths.py ${PROJECT_SOURCE_DIR})
 korvane_check(system_imports

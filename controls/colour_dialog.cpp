@@ -21,7 +21,7 @@ std::array<COLORREF, 16>& CustomColours() {
     return colours;
 }
 
-UINT_PTR CALLBACK OnMessage(HWND dialog, UINT id, WPARAM, LPARAM) {
+UINT_PTR CALLBACK OnMessage(HWND dialog, UINT id, WPARAM, LPARAM) noexcept {
     if (id != WM_INITDIALOG) return FALSE;
     ::SetWindowTextW(dialog, fw::LoadText(IDS_PICK_COLOUR).c_str());
     fw::CentreWindow(dialog);

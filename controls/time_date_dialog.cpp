@@ -12,6 +12,7 @@
 #include "framework/dpi.h"
 #include "framework/gdi.h"
 #include "framework/string_table.h"
+#include "framework/windows_program.h"
 
 namespace korvane::controls {
 namespace {
@@ -56,7 +57,8 @@ std::optional<UINT> StepOfKey(WPARAM virtualKey) {
 } // namespace
 
 INT_PTR StartByShell(const wchar_t* verb, const wchar_t* file, const wchar_t* parameters, int showCommand) {
-    return reinterpret_cast<INT_PTR>(::ShellExecuteW(nullptr, verb, file, parameters, nullptr, showCommand));
+    const std::wstring program = fw::WindowsProgram(file);
+    return reinterpret_cast<INT_PTR>(::ShellExecuteW(nullptr, verb, program.c_str(), parameters, nullptr, showCommand));
 }
 
 CTimeDateDialog::CTimeDateDialog(TimeDateHost& host, fw::MessageLoop& loop, const TimeDateSources& sources)

@@ -17,7 +17,7 @@
 
 namespace korvane::controls {
 
-// As ShellExecuteW does it, with its result.
+// As ShellExecuteW does it, with its result. The file is a program of Windows, named without its folder.
 using ShellStart =
     std::function<INT_PTR(const wchar_t* verb, const wchar_t* file, const wchar_t* parameters, int showCommand)>;
 INT_PTR StartByShell(const wchar_t* verb, const wchar_t* file, const wchar_t* parameters, int showCommand);

@@ -3,6 +3,7 @@
 #include <array>
 
 #include "framework/centring.h"
+#include "framework/icons.h"
 #include "framework/string_table.h"
 #include "res/ids.h"
 
@@ -17,10 +18,11 @@ void RemoveHook() {
     g_centringHook = nullptr;
 }
 
-LRESULT CALLBACK OnComputerBasedTraining(int code, WPARAM wparam, LPARAM lparam) {
+LRESULT CALLBACK OnComputerBasedTraining(int code, WPARAM wparam, LPARAM lparam) noexcept {
     if (code != HCBT_ACTIVATE) return ::CallNextHookEx(g_centringHook, code, wparam, lparam);
     const HWND box = reinterpret_cast<HWND>(wparam);
     CentreWindow(box, ::GetParent(box));
+    GiveProgramIcons(box);
     RemoveHook();
     return 1;
 }

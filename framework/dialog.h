@@ -4,7 +4,14 @@
 
 namespace fw {
 
+// True for a window that stands, as a whole, below a modal dialog or a message box: Windows has disabled it, and the
+// user cannot reach it. Its commands are then not the user's, and what they open would come to stand on what is open
+// already, as often as they are sent.
+[[nodiscard]] bool IsBelowModal(HWND window);
+
 // The part of a dialog that does not depend on its class.
+//
+// A dialog below another one carries out no commands. One that came to be without an icon of its own has the program's.
 class DialogObject : public WindowObject {
 public:
     ~DialogObject() override;
@@ -26,7 +33,7 @@ protected:
     [[nodiscard]] bool CreateModeless(UINT dialogTemplate, HWND owner);
 
 private:
-    static INT_PTR CALLBACK DialogProcedure(HWND window, UINT id, WPARAM wparam, LPARAM lparam);
+    static INT_PTR CALLBACK DialogProcedure(HWND window, UINT id, WPARAM wparam, LPARAM lparam) noexcept;
 
     bool confirmed_ = false;
 };

@@ -41,6 +41,7 @@ using UniqueBitmap = UniqueHandle<HBITMAP, &::DeleteObject>;
 using UniqueMenu = UniqueHandle<HMENU, &::DestroyMenu>;
 using UniqueKey = UniqueHandle<HKEY, &::RegCloseKey>;
 using UniqueLibrary = UniqueHandle<HMODULE, &::FreeLibrary>;
+using UniqueHook = UniqueHandle<HHOOK, &::UnhookWindowsHookEx>;
 using UniqueMemoryDc = UniqueHandle<HDC, &::DeleteDC>;
 
 // A file handle's "none" is -1, so callers turn INVALID_HANDLE_VALUE into null before they hand it over.

@@ -2,6 +2,10 @@
 
 #include <shellapi.h>
 
+#include <utility>
+
+#include "res/image_ids.h"
+
 namespace fw {
 
 UniqueIcon ExtractSmallIcon(const std::wstring& file, int index) {
@@ -24,6 +28,17 @@ std::vector<UniqueIcon> ExtractSmallIcons(const std::wstring& file) {
 UniqueIcon LoadResourceIcon(UINT id, int sizePx) {
     return UniqueIcon{static_cast<HICON>(
         ::LoadImageW(::GetModuleHandleW(nullptr), MAKEINTRESOURCEW(id), IMAGE_ICON, sizePx, sizePx, LR_DEFAULTCOLOR))};
+}
+
+void GiveProgramIcons(HWND window) {
+    const auto style = static_cast<DWORD>(::GetWindowLongPtrW(window, GWL_STYLE));
+    if ((style & WS_CHILD) != 0 || (style & WS_CAPTION) != WS_CAPTION) return;
+    for (const WPARAM size : {ICON_SMALL, ICON_BIG})
+        if (::SendMessageW(window, WM_GETICON, size, 0) != 0) return;
+    static const UniqueIcon small = LoadResourceIcon(IDI_KORVANE, ::GetSystemMetrics(SM_CXSMICON));
+    static const UniqueIcon big = LoadResourceIcon(IDI_KORVANE, ::GetSystemMetrics(SM_CXICON));
+    for (const auto& [size, icon] : {std::pair{ICON_SMALL, small.Get()}, std::pair{ICON_BIG, big.Get()}})
+        ::SendMessageW(window, WM_SETICON, static_cast<WPARAM>(size), reinterpret_cast<LPARAM>(icon));
 }
 
 } // namespace fw

@@ -18,4 +18,7 @@ namespace fw {
 // An icon of the program's own resources at the given size in pixels.
 [[nodiscard]] UniqueIcon LoadResourceIcon(UINT id, int sizePx);
 
+// Gives a window with a caption the program's icons, unless it has one of its own. They stay as long as the program.
+void GiveProgramIcons(HWND window);
+
 } // namespace fw

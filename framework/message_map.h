@@ -22,13 +22,13 @@ struct Message {
     UINT id;
     WPARAM wparam;
     LPARAM lparam;
+    // A notification that the parent hands back to the child that caused it. It is called and never sent: a number of
+    // its own could be sent by anyone, with anything for a pointer.
+    bool reflected = false;
 };
 
 using Reply = std::optional<LRESULT>;
 inline constexpr std::nullopt_t kPassOn = std::nullopt;
-
-// A notification that a parent sends back to the child that caused it; the offset is OCM__BASE of olectl.h.
-inline constexpr UINT kReflected = WM_USER + 0x1C00;
 
 // Arguments<Id>::From turns wparam and lparam into what a handler of Id takes. Without a specialisation the handler
 // gets the raw message; any handler may ask for that by taking a const Message&.
@@ -116,7 +116,7 @@ template <> struct Arguments<WM_LBUTTONDOWN> : MouseArguments {};
 template <> struct Arguments<WM_LBUTTONUP>   : MouseArguments {};
 // clang-format on
 
-enum class Kind : std::uint8_t { kMessage, kCommand, kControl, kNotify, kChain };
+enum class Kind : std::uint8_t { kMessage, kReflected, kCommand, kControl, kNotify, kChain };
 
 // What an entry answers; two entries of one map may not overlap.
 struct Key {
@@ -152,7 +152,7 @@ struct MessageEntry {
     Method method;
 
     Reply operator()(Owner& self, const Message& m) const {
-        if (m.id != K.first) return kPassOn;
+        if (m.id != K.first || m.reflected != (K.kind == Kind::kReflected)) return kPassOn;
         if constexpr (std::is_invocable_v<Method, Owner&, const Message&>) {
             return Answer([&](const Message& message) -> decltype(auto) { return (self.*method)(message); }, m);
         } else {
@@ -180,7 +180,7 @@ struct CommandEntry {
     Method method;
 
     Reply operator()(Owner& self, const Message& m) const {
-        if (m.id != WM_COMMAND) return kPassOn;
+        if (m.id != WM_COMMAND || m.reflected) return kPassOn;
         const UINT id = LOWORD(m.wparam);
         const UINT code = HIWORD(m.wparam);
         if (id < K.first || id > K.last) return kPassOn;
@@ -200,7 +200,7 @@ struct NotifyEntry {
     Method method;
 
     Reply operator()(Owner& self, const Message& m) const {
-        if (m.id != WM_NOTIFY) return kPassOn;
+        if (m.id != WM_NOTIFY || m.reflected) return kPassOn;
         const auto& header = *reinterpret_cast<const NMHDR*>(m.lparam);
         if (header.idFrom != K.first || header.code != K.code) return kPassOn;
         auto call = [&](auto& data) -> decltype(auto) { return (self.*method)(data); };
@@ -224,8 +224,7 @@ consteval auto On(R (Owner::*method)(A...)) {
 // A notification that came back from the parent.
 template <UINT Id, class R, class Owner, class... A>
 consteval auto OnReflected(R (Owner::*method)(A...)) {
-    constexpr UINT id = Id + kReflected;
-    return MessageEntry<Key{Kind::kMessage, id, id, 0}, Id, Owner, R (Owner::*)(A...)>{method};
+    return MessageEntry<Key{Kind::kReflected, Id, Id, 0}, Id, Owner, R (Owner::*)(A...)>{method};
 }
 // A menu choice, an accelerator or a click. The handler takes the identifier or nothing.
 template <UINT First, UINT Last = First, class R, class Owner, class... A>

@@ -15,7 +15,7 @@ MONITORINFO InfoOf(HMONITOR monitor) {
     return info;
 }
 
-BOOL CALLBACK Collect(HMONITOR monitor, HDC, LPRECT, LPARAM areas) {
+BOOL CALLBACK Collect(HMONITOR monitor, HDC, LPRECT, LPARAM areas) noexcept {
     auto& collected = *reinterpret_cast<std::vector<Rect>*>(areas);
     const MONITORINFO info = InfoOf(monitor);
     const bool primary = (info.dwFlags & MONITORINFOF_PRIMARY) != 0;

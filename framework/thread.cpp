@@ -11,7 +11,7 @@
 namespace fw {
 namespace {
 
-unsigned __stdcall Work(void* work) {
+unsigned __stdcall Work(void* work) noexcept {
     (*std::unique_ptr<std::function<void()>>{static_cast<std::function<void()>*>(work)})();
     return 0;
 }

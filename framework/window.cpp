@@ -1,6 +1,7 @@
 #include "framework/window.h"
 
 #include <unordered_map>
+#include <utility>
 
 namespace fw {
 namespace {
@@ -10,12 +11,16 @@ std::unordered_map<HWND, WindowObject*>& Bound() {
     return bound;
 }
 
+// The object whose window is being created. The message that binds the two is not asked for it: anyone can send it once
+// more, with anything for a pointer.
+WindowObject* g_creating = nullptr;
+
 struct OwnedPopUp {
     HWND owner;
     HWND found;
 };
 
-BOOL CALLBACK FindOwnedPopUp(HWND window, LPARAM parameter) {
+BOOL CALLBACK FindOwnedPopUp(HWND window, LPARAM parameter) noexcept {
     auto& search = *reinterpret_cast<OwnedPopUp*>(parameter);
     if (::GetWindow(window, GW_OWNER) != search.owner || !WindowObject::From(window)) return TRUE;
     search.found = window;
@@ -41,6 +46,7 @@ void WindowObject::Bind(HWND window) {
 void WindowObject::Unbind() {
     if (window_) Bound().erase(window_);
     window_ = nullptr;
+    created_ = false;
 }
 
 void WindowObject::Redraw() const {
@@ -49,9 +55,12 @@ void WindowObject::Redraw() const {
 
 bool WindowObject::CreateBound(const wchar_t* className, const CreateOptions& options) {
     const RECT& r = options.rect;
-    return ::CreateWindowExW(options.extendedStyle, className, options.text, options.style, r.left, r.top,
-                             r.right - r.left, r.bottom - r.top, options.parent, reinterpret_cast<HMENU>(options.id),
-                             ::GetModuleHandleW(nullptr), this) != nullptr;
+    WindowObject* const outer = std::exchange(g_creating, this);
+    const HWND window = ::CreateWindowExW(options.extendedStyle, className, options.text, options.style, r.left, r.top,
+                                          r.right - r.left, r.bottom - r.top, options.parent,
+                                          reinterpret_cast<HMENU>(options.id), ::GetModuleHandleW(nullptr), nullptr);
+    g_creating = outer;
+    return window != nullptr;
 }
 
 void WindowObject::DestroyUnbound(WNDPROC procedure) {
@@ -97,15 +106,19 @@ Reply WindowObject::Reflect(const Message& m) {
     }
     WindowObject* const object = From(child);
     if (!object) return kPassOn;
-    return object->Dispatch({child, m.id + kReflected, m.wparam, m.lparam});
+    return object->Dispatch({child, m.id, m.wparam, m.lparam, true});
 }
 
-LRESULT CALLBACK WindowObject::Procedure(HWND window, UINT id, WPARAM wparam, LPARAM lparam) {
-    if (id == WM_NCCREATE)
-        static_cast<WindowObject*>(reinterpret_cast<const CREATESTRUCTW*>(lparam)->lpCreateParams)->Bind(window);
-
-    WindowObject* const self = From(window);
+LRESULT CALLBACK WindowObject::Procedure(HWND window, UINT id, WPARAM wparam, LPARAM lparam) noexcept {
+    WindowObject* self = From(window);
+    if (id == WM_NCCREATE) {
+        // A second one, or one for a window that nothing of this program stands behind.
+        if (self || !g_creating) return FALSE;
+        self = std::exchange(g_creating, nullptr);
+        self->Bind(window);
+    }
     if (!self) return ::DefWindowProcW(window, id, wparam, lparam);
+    if (id == WM_CREATE && std::exchange(self->created_, true)) return 0;
 
     const Message m{window, id, wparam, lparam};
     if (id == WM_NCDESTROY) {

@@ -22,7 +22,8 @@ struct CreateOptions {
 };
 
 // What stands behind a window of this program. The object outlives its window or destroys it; it is entered in the one
-// table of windows at WM_NCCREATE and leaves it at WM_NCDESTROY. All of it belongs to the one GUI thread.
+// table of windows at WM_NCCREATE and leaves it at WM_NCDESTROY. All of it belongs to the one GUI thread. No exception
+// leaves a procedure: what Windows would make of it depends on who sent the message.
 class WindowObject {
 public:
     WindowObject() = default;
@@ -58,13 +59,14 @@ protected:
     // Takes the window away from the object and destroys it; `procedure` serves its last messages. For destructors,
     // where the map must not run any more.
     void DestroyUnbound(WNDPROC procedure);
-    static LRESULT CALLBACK Procedure(HWND window, UINT id, WPARAM wparam, LPARAM lparam);
+    static LRESULT CALLBACK Procedure(HWND window, UINT id, WPARAM wparam, LPARAM lparam) noexcept;
 
     // Registers a class once per process; gives the procedure of the base class, or null when there is no base.
     static WNDPROC Register(const WindowClass& windowClass);
 
 private:
     HWND window_ = nullptr;
+    bool created_ = false; // WM_CREATE has come
 };
 
 // Destroys the pop-ups of this program that a window of its thread owns. For owners that go before their windows do:

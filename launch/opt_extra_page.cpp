@@ -122,8 +122,19 @@ void COptExtraPage::Append(CLaunchItem item) {
 }
 
 void COptExtraPage::InsertAt(int row, CLaunchItem item) {
-    items_.push_back(std::make_unique<CLaunchItem>(std::move(item)));
+    items_.push_back(std::make_shared<CLaunchItem>(std::move(item)));
     if (!list_.Insert(row, items_.back().get())) items_.pop_back();
+}
+
+std::shared_ptr<CLaunchItem> COptExtraPage::ItemAt(int row) const {
+    const auto owned = std::ranges::find(items_, list_.ItemAt(row), &std::shared_ptr<CLaunchItem>::get);
+    return owned != items_.end() ? *owned : nullptr;
+}
+
+int COptExtraPage::RowOf(const CLaunchItem& item) const {
+    for (int row = 0; row < list_.Count(); ++row)
+        if (list_.ItemAt(row) == &item) return row;
+    return kNoRow;
 }
 
 void COptExtraPage::OnMoveUp() {
@@ -155,7 +166,7 @@ void COptExtraPage::OnAdd() {
     if (!LaunchPageButtonsFor(list_.Count(), list_.Selected()).add) return;
     CAddMenuDialog editor{smallIcon_, help_};
     static_cast<void>(editor.ShowModal(DialogOwner()));
-    if (!editor.Confirmed()) return;
+    if (!editor.Confirmed() || FreePlaces(list_.Count()) <= 0) return;
     const int row = InsertRow(list_.Count(), list_.Selected(), inFront);
     InsertAt(row, editor.Item());
     Select(row);
@@ -164,31 +175,33 @@ void COptExtraPage::OnAdd() {
 }
 
 void COptExtraPage::OnEdit() {
-    const int row = list_.Selected();
-    CLaunchItem* const item = list_.ItemAt(row);
+    const auto item = ItemAt(list_.Selected());
     if (!item) return;
     CAddMenuDialog editor{smallIcon_, help_, *item};
     static_cast<void>(editor.ShowModal(DialogOwner()));
-    if (!editor.Confirmed()) return;
+    const int row = RowOf(*item);
+    if (!editor.Confirmed() || row == kNoRow) return;
     item->Assign(editor.Item());
     // The row's text is the item's name.
-    list_.Move(row, row, item);
+    list_.Move(row, row, item.get());
     Select(row);
     FocusList();
 }
 
 void COptExtraPage::OnDelete() {
-    const int row = list_.Selected();
-    CLaunchItem* const item = list_.ItemAt(row);
-    if (!item || !CanDelete(list_.Count(), row)) return;
+    const CLaunchItem* const listed = list_.ItemAt(list_.Selected());
+    if (!listed || !CanDelete(list_.Count(), list_.Selected())) return;
+    const auto item = ItemAt(list_.Selected());
     const std::wstring caption = fw::WindowText(::GetAncestor(Handle(), GA_ROOT));
-    const std::wstring_view name = item->Name();
-    if (fw::ShowMessage(Handle(), fw::FormatResource(IDS_DELETE_ITEM, name), caption,
+    const std::wstring name = listed->Name();
+    if (fw::ShowMessage(Handle(), fw::FormatResource(IDS_DELETE_ITEM, std::wstring_view{name}), caption,
                         MB_YESNOCANCEL | MB_ICONQUESTION) != IDYES)
         return;
-    const auto owned = std::ranges::find(items_, item, &std::unique_ptr<CLaunchItem>::get);
-    if (owned == items_.end()) {
-        fw::ShowMessage(Handle(), fw::FormatResource(IDS_DELETE_ITEM_FAILED, name), caption, MB_ICONEXCLAMATION);
+    const auto owned = std::ranges::find(items_, item);
+    const int row = item ? RowOf(*item) : kNoRow;
+    if (owned == items_.end() || !CanDelete(list_.Count(), row)) {
+        fw::ShowMessage(Handle(), fw::FormatResource(IDS_DELETE_ITEM_FAILED, std::wstring_view{name}), caption,
+                        MB_ICONEXCLAMATION);
         return;
     }
     list_.Remove(row);

@@ -72,6 +72,10 @@ private:
     // At the end of the list when there is still room. The page owns the item, whatever becomes of its row.
     void Append(CLaunchItem item);
     void InsertAt(int row, CLaunchItem item);
+    // Null for a row that there is not.
+    [[nodiscard]] std::shared_ptr<CLaunchItem> ItemAt(int row) const;
+    // Where an item stands now; -1 when it is in the list no more.
+    [[nodiscard]] int RowOf(const CLaunchItem& item) const;
     void MoveSelectedTo(int row);
     void Select(int row);
     // After items were appended.
@@ -84,7 +88,9 @@ private:
     HICON smallIcon_;
     about::HelpOpener& help_;
     CLaunchMenuListBox list_;
-    std::vector<std::unique_ptr<CLaunchItem>> items_; // in no order; the list's rows point to them
+    // In no order; the list's rows point to them. Whoever opens a dialog about an item holds on to it: the item may be
+    // taken out of the list meanwhile.
+    std::vector<std::shared_ptr<CLaunchItem>> items_;
     std::vector<std::wstring> unlisted_;
     std::vector<std::wstring> droppedFiles_;
 };

@@ -2,6 +2,10 @@
 
 namespace korvane::search {
 
+void FollowSystemLocale() {
+    ::SetThreadLocale(::GetSystemDefaultLCID());
+}
+
 std::string BytesInCodePage(std::wstring_view text, UINT codePage) {
     // The conversion takes a length of 0 for an error.
     if (text.empty()) return {};

@@ -239,7 +239,7 @@ int COptCommandPage::Ask(const std::wstring& text, UINT flags) {
 
 bool COptCommandPage::OnValidate(const fw::Message&) {
     if (lists_.Checked() > 0) return false;
-    Ask(fw::LoadText(IDS_NO_COMMAND_SELECTED), MB_ICONEXCLAMATION);
+    if (!fw::IsBelowModal(Handle())) Ask(fw::LoadText(IDS_NO_COMMAND_SELECTED), MB_ICONEXCLAMATION);
     return true;
 }
 
@@ -250,7 +250,8 @@ void COptCommandPage::TellLimit(const SelectionLimit& limit) {
 }
 
 void COptCommandPage::OnTellLimit(const fw::Message&) {
-    limitToBeTold_ = false;
+    // Only when the page has posted it to itself.
+    if (!std::exchange(limitToBeTold_, false)) return;
     if (const auto limit = lists_.LimitReached()) TellLimit(*limit);
 }
 
@@ -284,18 +285,26 @@ std::optional<SearchCommand> COptCommandPage::AskForTexts(std::optional<SearchCo
     return dialog.Answer();
 }
 
+bool COptCommandPage::GoBackTo(const CommandMark& mark) {
+    if (!lists_.GoBackTo(mark)) return false;
+    ShowKind(mark.kind);
+    return true;
+}
+
 void COptCommandPage::OnAdd() {
     if (!lists_.Actions().add) return;
     auto command = AskForTexts({});
     if (!command) return;
+    ShowKind(SearchCommandKind::kUser);
     lists_.Add(std::move(*command));
     ShowRows();
 }
 
 void COptCommandPage::OnEdit() {
     if (!lists_.Actions().edit) return;
+    const auto edited = lists_.Mark();
     auto command = AskForTexts(*lists_.SelectedCommand());
-    if (!command) return;
+    if (!command || !GoBackTo(*edited)) return;
     lists_.Replace(std::move(*command));
     ShowRows();
 }
@@ -323,8 +332,11 @@ void COptCommandPage::OnUncheckAll() {
 
 void COptCommandPage::OnDelete() {
     if (!lists_.Actions().remove) return;
+    const auto doomed = lists_.Mark();
     const std::wstring name = lists_.SelectedCommand()->name;
-    if (Ask(fw::FormatResource(IDS_DELETE_COMMAND, std::wstring_view{name}), MB_YESNOCANCEL | MB_ICONQUESTION) != IDYES)
+    if (Ask(fw::FormatResource(IDS_DELETE_COMMAND, std::wstring_view{name}), MB_YESNOCANCEL | MB_ICONQUESTION) !=
+            IDYES ||
+        !GoBackTo(*doomed))
         return;
     lists_.Remove();
     ShowRows();

@@ -108,6 +108,8 @@ private:
     void FocusOn(HWND control);
     // Empty when it was not confirmed.
     [[nodiscard]] std::optional<SearchCommand> AskForTexts(std::optional<SearchCommand> edited);
+    // To a command that a dialog was about. False when it has gone meanwhile.
+    [[nodiscard]] bool GoBackTo(const CommandMark& mark);
     void TellLimit(const SelectionLimit& limit);
     int Ask(const std::wstring& text, UINT flags);
 

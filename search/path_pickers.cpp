@@ -19,7 +19,7 @@ struct BrowserSetup {
     const std::wstring& start;
 };
 
-int CALLBACK OnBrowserMessage(HWND browser, UINT message, LPARAM, LPARAM data) {
+int CALLBACK OnBrowserMessage(HWND browser, UINT message, LPARAM, LPARAM data) noexcept {
     // The browser takes neither title nor folder from its caller, but can be given both as soon as it is there.
     if (message != BFFM_INITIALIZED) return 0;
     const auto& setup = *reinterpret_cast<const BrowserSetup*>(data);

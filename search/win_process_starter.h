@@ -9,6 +9,8 @@ class WinProcessStarter final : public ProcessStarter {
 public:
     [[nodiscard]] unsigned long StartCommandLine(const std::wstring& commandLine) override;
     [[nodiscard]] int Open(const std::wstring& file) override;
+    [[nodiscard]] int OpenProgram(const std::wstring& program, const std::wstring& arguments) override;
+    [[nodiscard]] std::optional<std::wstring> FindProgram(const std::wstring& name) override;
 };
 
 } // namespace korvane::search

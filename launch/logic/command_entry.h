@@ -14,6 +14,8 @@ struct CommandEntry {
     std::wstring iconIndexText;
     std::wstring name;
     int iconIndex = -1; // -1: no icon
+    // The program's own entry, not the user's: its files are Windows' and named without their folders.
+    bool builtIn = false;
 
     [[nodiscard]] bool HasIcon() const { return !iconFile.empty() && iconIndex != -1; }
 };

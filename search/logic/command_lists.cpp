@@ -40,6 +40,8 @@ CommandLists::CommandLists(const SearchStores& stores, std::vector<SearchCommand
     HalfOf(kStandard).list = WithSelection(std::move(standard), stores.settings, kStandard);
     // The user's commands are renumbered whenever they are saved, so the file's order is theirs.
     HalfOf(kUser).list = WithSelection(std::move(userCommands), stores.settings, kUser);
+    for (Half& half : halves_)
+        for (auto& item : half.list) item.identity = ++lastIdentity_;
 }
 
 void CommandLists::Select(std::optional<std::size_t> row) {
@@ -49,6 +51,20 @@ void CommandLists::Select(std::optional<std::size_t> row) {
 const SearchCommand* CommandLists::SelectedCommand() const {
     const auto row = Selected();
     return row ? &Shown()[*row].command : nullptr;
+}
+
+std::optional<CommandMark> CommandLists::Mark() const {
+    const auto row = Selected();
+    return row ? std::optional{CommandMark{shown_, Shown()[*row].identity}} : std::nullopt;
+}
+
+bool CommandLists::GoBackTo(const CommandMark& mark) {
+    const List& list = Of(mark.kind);
+    const auto found = std::ranges::find(list, mark.identity, &ListedCommand::identity);
+    if (found == list.end()) return false;
+    Show(mark.kind);
+    Select(static_cast<std::size_t>(found - list.begin()));
+    return true;
 }
 
 CommandActions CommandLists::Actions() const {
@@ -123,7 +139,8 @@ void CommandLists::MoveDown() {
 
 void CommandLists::Insert(std::size_t row, SearchCommand command) {
     Half& half = HalfOf(shown_);
-    half.list.insert(std::next(half.list.begin(), static_cast<std::ptrdiff_t>(row)), {std::move(command), false});
+    half.list.insert(std::next(half.list.begin(), static_cast<std::ptrdiff_t>(row)),
+                     {std::move(command), false, ++lastIdentity_});
     half.selected = row;
 }
 

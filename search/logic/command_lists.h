@@ -37,6 +37,12 @@ struct SelectionLimit {
     friend bool operator==(const SelectionLimit&, const SelectionLimit&) = default;
 };
 
+// What a command is found again by, whatever became of the lists in the meantime.
+struct CommandMark {
+    SearchCommandKind kind;
+    unsigned identity;
+};
+
 // The two lists of search commands in the options, of which one is on view, with a row of each that may be selected.
 // What changes a list changes the one on view. Calls that make no sense at the time (see Actions) change nothing.
 class CommandLists {
@@ -59,6 +65,12 @@ public:
     void Select(std::optional<std::size_t> row);
     // Null when nothing is selected.
     [[nodiscard]] const SearchCommand* SelectedCommand() const;
+
+    // The selected command's mark; empty when nothing is selected.
+    [[nodiscard]] std::optional<CommandMark> Mark() const;
+    // Puts the list of a marked command on view and selects the command. False, and nothing is changed, when it is
+    // gone.
+    [[nodiscard]] bool GoBackTo(const CommandMark& mark);
 
     [[nodiscard]] CommandActions Actions() const;
     [[nodiscard]] int CheckedIn(SearchCommandKind kind) const;
@@ -101,6 +113,7 @@ private:
     std::array<Half, 2> halves_; // in the order of SearchCommandKind
     SearchCommandKind shown_ = SearchCommandKind::kStandard;
     std::optional<SearchCommand> copied_;
+    unsigned lastIdentity_ = 0;
 };
 
 // What a command's row says beside its name: its comment, or its command line where there is none.

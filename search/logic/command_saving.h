@@ -14,6 +14,8 @@ namespace korvane::search {
 struct ListedCommand {
     SearchCommand command;
     bool selected = false;
+    // Tells it from all others of its list, also from those that are the same. Given by CommandLists.
+    unsigned identity = 0;
 };
 
 // Saves the user's commands, numbered anew from 1 in list order, and which of them are selected. `loaded` is what the

@@ -1,9 +1,12 @@
 #include "search/logic/typed_command.h"
 
+#include <algorithm>
+
 namespace korvane::search {
 namespace {
 
 constexpr std::wstring_view kBlanks = L" \t";
+constexpr wchar_t kQuote = L'"';
 
 } // namespace
 
@@ -12,9 +15,36 @@ std::wstring CommandLineOfTyped(std::wstring_view text) {
     return line.append(text);
 }
 
+std::vector<CommandParts> PartingsOf(std::wstring_view line) {
+    const auto part = [line](std::size_t first, std::size_t last, std::size_t rest) {
+        rest = std::min(line.find_first_not_of(kBlanks, rest), line.size());
+        return CommandParts{std::wstring{line.substr(first, last - first)}, std::wstring{line.substr(rest)}};
+    };
+    const std::size_t first = line.find_first_not_of(kBlanks);
+    if (first == std::wstring_view::npos) return {};
+    if (line[first] == kQuote) {
+        const std::size_t last = std::min(line.find(kQuote, first + 1), line.size());
+        return {part(first + 1, last, std::min(last + 1, line.size()))};
+    }
+    std::vector<CommandParts> partings;
+    for (std::size_t last = first; last < line.size();) {
+        last = std::min(line.find_first_of(kBlanks, last), line.size());
+        partings.push_back(part(first, last, last));
+        last = std::min(line.find_first_not_of(kBlanks, last), line.size());
+    }
+    return partings;
+}
+
 RunOutcome RunTypedCommand(std::wstring_view text, ProcessStarter& starter) {
     const std::wstring line = CommandLineOfTyped(text);
-    if (starter.StartCommandLine(line) == 0) return {};
+    const unsigned long error = starter.StartCommandLine(line);
+    if (error == 0) return {};
+    // Only the shell can ask the user for more rights, and it takes a whole line for the name of a file.
+    constexpr unsigned long kElevationRequired = 740;
+    if (error == kElevationRequired)
+        for (const CommandParts& parts : PartingsOf(line))
+            if (const auto program = starter.FindProgram(parts.program))
+                return {ErrorOfShell(starter.OpenProgram(*program, parts.arguments))};
     return {ErrorOfShell(starter.Open(line))};
 }
 

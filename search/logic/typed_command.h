@@ -3,6 +3,7 @@
 #include <cstddef>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "search/logic/process_starter.h"
 
@@ -11,6 +12,18 @@ namespace korvane::search {
 // The command line that a typed text stands for. Control panel items (".cpl" anywhere, in small letters) are opened by
 // the control panel; in capital letters they are run as they stand, which is on purpose.
 [[nodiscard]] std::wstring CommandLineOfTyped(std::wstring_view text);
+
+// A command line taken apart, as the shell wants it.
+struct CommandParts {
+    std::wstring program;
+    std::wstring arguments;
+
+    friend bool operator==(const CommandParts&, const CommandParts&) = default;
+};
+
+// Where a command line may be parted, in the order in which CreateProcess tries it: behind a name in quotation marks;
+// otherwise behind the first word, behind the second and so on, for a path may have blanks.
+[[nodiscard]] std::vector<CommandParts> PartingsOf(std::wstring_view line);
 
 // What became of a typed command. With an error code there is something to be shown to the user, without one the text
 // belongs into the history.
@@ -21,7 +34,8 @@ struct RunOutcome {
     friend bool operator==(const RunOutcome&, const RunOutcome&) = default;
 };
 
-// Runs a typed text as a process or, where that cannot be, has the shell open it.
+// Runs a typed text as a process or, where that cannot be, has the shell open it. A program that needs more rights than
+// the user's is started by the shell with its arguments.
 [[nodiscard]] RunOutcome RunTypedCommand(std::wstring_view text, ProcessStarter& starter);
 
 // How a picked path goes into the box.

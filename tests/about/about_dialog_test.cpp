@@ -11,6 +11,7 @@
 #include "framework/icons.h"
 #include "framework/monitors.h"
 #include "framework/window_text.h"
+#include "framework/windows_program.h"
 #include "tests/about/recording_opener.h"
 #include "tests/support/gdi_objects.h"
 #include "tests/support/message_box_answer.h"
@@ -193,7 +194,7 @@ TEST_F(AboutBox, StartsTheSystemInformation) {
 
     Send(Control(IDC_SYSTEM_INFORMATION), BM_CLICK);
 
-    EXPECT_EQ(shell.log, L"open msinfo32.exe\n");
+    EXPECT_EQ(shell.log, L"open " + fw::WindowsProgram(L"msinfo32.exe") + L"\n");
 }
 
 TEST_F(AboutBox, ReportsASystemInformationThatDoesNotStart) {

@@ -6,11 +6,14 @@
 
 #include <array>
 #include <string>
+#include <vector>
 
 #include "about/logic/help_topics.h"
+#include "framework/centred_message_box.h"
 #include "framework/dpi.h"
 #include "framework/program_path.h"
 #include "tests/support/help_recorder_log.h"
+#include "tests/support/modal_dialog_answer.h"
 #include "tests/support/window_test.h"
 
 namespace korvane::about {
@@ -18,6 +21,7 @@ namespace {
 
 using test::kHelpLog;
 using testing::ElementsAre;
+using testing::EndsWith;
 using testing::StartsWith;
 
 std::wstring CurrentFolder() {
@@ -59,6 +63,11 @@ protected:
         HWND tree = nullptr;
         ::EnumChildWindows(HelpWindow(), &TakeTree, reinterpret_cast<LPARAM>(&tree));
         return tree;
+    }
+    static std::vector<std::wstring> KeysOffered() {
+        std::vector<std::wstring> keys = Calls();
+        std::erase_if(keys, [](const std::wstring& call) { return !call.starts_with(L"PRETRANSLATEMESSAGE"); });
+        return keys;
     }
     static std::vector<std::wstring> Calls() { return test::LoggedLines(kHelpLog); }
 
@@ -166,6 +175,51 @@ TEST_F(HelpSessionTest, OffersKeysToTheControlOnlyWhileAHelpWindowIsOpen) {
                                      StartsWith(L"TREE"),
                                      L"PRETRANSLATEMESSAGE caller=none file=none data=key 9 folder=C:\\windows",
                                      L"PRETRANSLATEMESSAGE caller=none file=none data=key 116 folder=C:\\windows"));
+}
+
+TEST_F(HelpSessionTest, OffersTheHelpWindowsKeysToTheControlWhileADialogIsOpen) {
+    HelpSession help{Recorder()};
+    ASSERT_TRUE(help.Show(help_topic::kContents, nullptr));
+    bool taken = false;
+    const test::ModalDialogAnswer dialog{IDOK, [&](HWND box) {
+                                             ::PostMessageW(Tree(), WM_KEYDOWN, VK_TAB, 0);
+                                             ::PostMessageW(box, WM_KEYDOWN, VK_SHIFT, 0);
+                                             taken = true;
+                                         }};
+
+    fw::ShowMessage(Host(), L"text", L"caption", MB_OK);
+
+    ASSERT_TRUE(taken);
+    EXPECT_THAT(KeysOffered(), ElementsAre(EndsWith(L"key 9 folder=C:\\windows")));
+    help.CloseWindows();
+}
+
+TEST_F(HelpSessionTest, OffersAKeyOnceWhereTheProgramsOwnLoopServesDialogsToo) {
+    HelpSession help{Recorder()};
+    ASSERT_TRUE(help.Show(help_topic::kContents, nullptr));
+    MSG key{Host(), WM_KEYDOWN, VK_F5, 0, 0, {}};
+
+    EXPECT_FALSE(help.PreTranslate(key));
+    ::IsDialogMessageW(Host(), &key);
+
+    EXPECT_THAT(KeysOffered(), ElementsAre(EndsWith(L"key 116 folder=C:\\windows")));
+    help.CloseWindows();
+}
+
+TEST_F(HelpSessionTest, HearsNothingOfDialogsOnceItIsOver) {
+    const auto windowsProcedures = Recorder();
+    MSG key{};
+    {
+        HelpSession help{Recorder()};
+        ASSERT_TRUE(help.Show(help_topic::kContents, nullptr));
+        key = {Tree(), WM_KEYDOWN, VK_TAB, 0, 0, {}};
+    }
+    const auto before = Calls();
+
+    EXPECT_FALSE(::CallMsgFilterW(&key, MSGF_DIALOGBOX));
+
+    EXPECT_EQ(Calls(), before);
+    ::DestroyWindow(HelpWindow());
 }
 
 } // namespace

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "framework/centred_message_box.h"
+#include "framework/windows_program.h"
 #include "tests/about/recording_opener.h"
 #include "tests/support/message_box_answer.h"
 #include "tests/support/window_test.h"
@@ -27,7 +28,8 @@ TEST_F(SupportTest, OpensTheSystemInformation) {
 
     EXPECT_EQ(ShowSystemInformation(shell.AsOpener()), 5);
 
-    EXPECT_EQ(shell.log, L"open msinfo32.exe\n");
+    EXPECT_EQ(shell.log, L"open " + fw::WindowsProgram(L"msinfo32.exe") + L"\n");
+    EXPECT_TRUE(shell.log.ends_with(L"\\msinfo32.exe\n")) << "by its full path";
 }
 
 TEST_F(SupportTest, TellsWhatToMindBeforeItOpensTheMail) {

@@ -17,6 +17,7 @@
 #include "settings/logic/window_placement.h"
 #include "tests/support/main_frame_fixture.h"
 #include "tests/support/message_box_answer.h"
+#include "tests/support/modal_dialog_answer.h"
 
 using namespace korvane;
 using app::CMainFrame;
@@ -265,6 +266,46 @@ TEST_F(MainFrameTest, NamesTheCommandBoxWhenItsHistoryIsToBeCleared) {
     Bar().ClearHistory(search::Box::kCommand);
 
     EXPECT_EQ(box.Text(), L"[コマンド入力ボックス] の履歴をすべて消去します。よろしいですか？");
+}
+
+TEST_F(MainFrameTest, OpensNothingOverItsAboutBox) {
+    Bar();
+    int opened = 0;
+    const test::ModalDialogAnswer answer{
+        IDOK, [&](HWND) {
+            ++opened;
+            for (const int id : {ID_ABOUT, ID_OPTIONS, ID_SEND_MAIL, ID_SHUT_DOWN, ID_RUN_SEARCH, ID_EXIT})
+                ::PostMessageW(Bar().Handle(), WM_COMMAND, static_cast<WPARAM>(id), 0);
+        }};
+
+    Send(WM_COMMAND, ID_ABOUT);
+
+    EXPECT_EQ(opened, 1);
+    EXPECT_EQ(answer.Caption(), L"Korvane のバージョン情報");
+}
+
+TEST_F(MainFrameTest, AsksOnceHoweverOftenItIsToldToClose) {
+    Bar();
+    const test::ModalDialogAnswer no{IDNO, [&](HWND) {
+                                         for (int i = 0; i < 10; ++i) ::PostMessageW(Bar().Handle(), WM_CLOSE, 0, 0);
+                                     }};
+
+    Send(WM_CLOSE);
+
+    EXPECT_EQ(no.Count(), 1);
+    EXPECT_NE(Bar().Handle(), nullptr);
+}
+
+TEST_F(MainFrameTest, SaysOnceThatThereIsNoHelpThoughTheMessageIsAskedForHelpToo) {
+    about::HelpSession none{fw::UniqueLibrary{}};
+    CMainFrame frame{loop, none, Places()};
+    ASSERT_TRUE(frame.CreateFrame());
+    const test::ModalDialogAnswer box{IDOK, [&](HWND) { frame.OpenHelp(L"index.html", frame.Handle()); }};
+
+    frame.OpenHelp(L"index.html", frame.Handle());
+
+    EXPECT_EQ(box.Count(), 1);
+    ::DestroyWindow(frame.Handle());
 }
 
 TEST_F(MainFrameTest, ClosingWritesNoPlacementUnlessItIsToBeSaved) {

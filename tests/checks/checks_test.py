@@ -10,6 +10,7 @@ sys.dont_write_bytecode = True
 TOP = pathlib.Path(__file__).resolve().parents[2]
 sys.path[:0] = [str(TOP / "scripts" / "checks"), str(TOP / "help")]
 
+import callbacks
 import control_ids
 import help_file
 import help_links
@@ -117,6 +118,37 @@ class ControlIds(CheckCase):
     def test_a_missing_template_is_found(self):
         self.tree(res__a_rc=self.RESOURCES, search__page_h="kTemplate = IDD_NOWHERE;")
         self.assertEqual(self.found(), ["search/page.h: there is no dialog template IDD_NOWHERE"])
+
+
+class Callbacks(CheckCase):
+    def found(self):
+        return list(callbacks.findings(self.root))
+
+    def test_a_promise_of_no_exception_is_fine(self):
+        self.tree(
+            framework__a_h="static LRESULT CALLBACK Procedure(HWND window, UINT id) noexcept;\n",
+            framework__a_cpp="LRESULT CALLBACK A::Procedure(HWND window, UINT id) noexcept {\n}\n",
+            app__main_cpp="int WINAPI wWinMain(HINSTANCE, int show) {\n}\n",
+        )
+        self.assertEqual(self.found(), [])
+
+    def test_types_of_functions_and_tests_are_left_alone(self):
+        self.tree(
+            framework__a_cpp="using Read = HRESULT WINAPI(DWORD*);\n",
+            tests__a_cpp="BOOL CALLBACK Collect(HWND window, LPARAM) {\n}\n",
+        )
+        self.assertEqual(self.found(), [])
+
+    def test_a_callback_without_the_promise_is_found(self):
+        self.tree(
+            app__a_cpp="\nBOOL CALLBACK Collect(HWND window,\n    LPARAM) {\n}\n",
+            app__b_h="    static INT_PTR CALLBACK DialogProcedure(HWND window);\n",
+            framework__c_cpp="unsigned __stdcall Work(void* work) {\n}\n",
+        )
+        self.assertEqual(
+            [finding.split(":")[0:2] for finding in self.found()],
+            [["framework/c.cpp", "1"], ["app/a.cpp", "2"], ["app/b.h", "1"]],
+        )
 
 
 class NoMachinePaths(CheckCase):

@@ -3,10 +3,14 @@
 #include <gtest/gtest.h>
 
 #include <string>
+#include <vector>
 
 #include "framework/centring.h"
 #include "framework/gdi.h"
+#include "framework/icons.h"
+#include "res/image_ids.h"
 #include "tests/framework/test_ids.h"
+#include "tests/support/icon_pixels.h"
 #include "tests/support/window_test.h"
 
 namespace fw {
@@ -21,6 +25,7 @@ struct SeenBox {
     std::wstring caption;
     std::wstring text;
     Rect rect;
+    std::vector<COLORREF> smallIcon;
 };
 
 SeenBox g_seen;
@@ -49,7 +54,12 @@ void CALLBACK AnswerBox(HWND, UINT, UINT_PTR timer, DWORD) {
     // The text's identifier is -1 in some versions of Windows and 0xFFFF in others.
     HWND text = ::GetDlgItem(box, 0xFFFF);
     if (!text) text = ::GetDlgItem(box, -1);
-    g_seen = {g_seen.count + 1, ::GetWindow(box, GW_OWNER), TextOf(box), TextOf(text), WindowRect(box)};
+    g_seen = {g_seen.count + 1,
+              ::GetWindow(box, GW_OWNER),
+              TextOf(box),
+              TextOf(text),
+              WindowRect(box),
+              korvane::test::PixelsOf(reinterpret_cast<HICON>(::SendMessageW(box, WM_GETICON, ICON_SMALL, 0)))};
     ::EndDialog(box, static_cast<INT_PTR>(g_answer));
 }
 
@@ -74,6 +84,14 @@ protected:
     HWND owner = nullptr;
     UINT_PTR timer = 0;
 };
+
+TEST_F(MessageBoxTest, HasTheProgramsIcon) {
+    ShowMessage(owner, L"text", L"caption", MB_OK);
+
+    const UniqueIcon program = LoadResourceIcon(IDI_KORVANE, ::GetSystemMetrics(SM_CXSMICON));
+    EXPECT_FALSE(g_seen.smallIcon.empty());
+    EXPECT_EQ(g_seen.smallIcon, korvane::test::PixelsOf(program.Get()));
+}
 
 TEST_F(MessageBoxTest, ShowsItsTextAndCaptionAndGivesTheAnswer) {
     g_answer = IDNO;

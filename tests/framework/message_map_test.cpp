@@ -99,6 +99,10 @@ protected:
         static constexpr auto map = Target::Messages();
         return map(target, {nullptr, id, wparam, lparam});
     }
+    Reply OfferReflected(UINT id, WPARAM wparam, LPARAM lparam) {
+        static constexpr auto map = Target::Messages();
+        return map(target, {nullptr, id, wparam, lparam, true});
+    }
     // A notification of a control; 1 stands for its window.
     Reply OfferCommand(UINT id, UINT code, LPARAM control) { return Offer(WM_COMMAND, MAKEWPARAM(id, code), control); }
 
@@ -216,8 +220,24 @@ TEST_F(MessageMapTest, TellsAReflectedMessageFromOneOfItsOwn) {
     item.CtlID = 9;
 
     EXPECT_FALSE(Offer(WM_DRAWITEM, 9, reinterpret_cast<LPARAM>(&item)));
-    EXPECT_TRUE(Offer(WM_DRAWITEM + kReflected, 9, reinterpret_cast<LPARAM>(&item)));
+    EXPECT_TRUE(OfferReflected(WM_DRAWITEM, 9, reinterpret_cast<LPARAM>(&item)));
     EXPECT_EQ(target.log, "draw 9;");
+}
+
+TEST_F(MessageMapTest, KeepsAReflectedMessageFromWhoeverWaitsForOneOfItsOwn) {
+    NMHDR header{nullptr, 400, static_cast<UINT>(NM_CLICK)};
+
+    EXPECT_FALSE(OfferReflected(WM_SIZE, SIZE_RESTORED, MAKELPARAM(300, 40)));
+    EXPECT_FALSE(OfferReflected(WM_COMMAND, MAKEWPARAM(205, EN_CHANGE), 1));
+    EXPECT_FALSE(OfferReflected(WM_NOTIFY, 400, reinterpret_cast<LPARAM>(&header)));
+    EXPECT_EQ(target.log, "");
+}
+
+TEST_F(MessageMapTest, TakesNoMessageNumberForAReflectedMessage) {
+    // Those in between are the program's own, and some of them are mapped here.
+    for (UINT number = WM_USER; number < WM_APP; ++number) EXPECT_FALSE(Offer(number, 9, 1)) << number;
+    for (UINT number = 0xC000; number <= 0xFFFF; ++number) EXPECT_FALSE(Offer(number, 9, 1)) << number;
+    EXPECT_EQ(target.log, "");
 }
 
 } // namespace

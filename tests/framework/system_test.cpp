@@ -7,7 +7,9 @@
 #include "framework/program_path.h"
 #include "framework/system_library.h"
 #include "framework/theme.h"
+#include "framework/windows_program.h"
 #include "framework/windows_version.h"
+#include "tests/support/temp_folder.h"
 #include "tests/support/window_test.h"
 
 namespace fw {
@@ -107,6 +109,97 @@ TEST_F(ThemeTest, CanBeOpenedAgain) {
 
     theme.Close();
     EXPECT_FALSE(theme);
+}
+
+// A library of nothing that a test can have loaded, under a name that no other has.
+class PlantedLibrary {
+public:
+    PlantedLibrary() {
+        const std::wstring program = ProgramPath().value();
+        const std::wstring library = program.substr(0, program.rfind(L'\\') + 1) + KORVANE_HELP_RECORDER;
+        planted_ = ::CopyFileW(library.c_str(), folder_.File(kName).c_str(), FALSE) != FALSE;
+        before_.resize(::GetCurrentDirectoryW(0, nullptr));
+        ::GetCurrentDirectoryW(static_cast<DWORD>(before_.size()), before_.data());
+        ::SetCurrentDirectoryW(folder_.Path().c_str());
+    }
+    PlantedLibrary(const PlantedLibrary&) = delete;
+    PlantedLibrary& operator=(const PlantedLibrary&) = delete;
+    ~PlantedLibrary() { ::SetCurrentDirectoryW(before_.c_str()); }
+
+    static constexpr const wchar_t* kName = L"korvane_planted.dll";
+    [[nodiscard]] bool Planted() const { return planted_; }
+    [[nodiscard]] std::wstring Path() const { return folder_.File(kName); }
+
+private:
+    korvane::test::TempFolder folder_;
+    std::wstring before_;
+    bool planted_ = false;
+};
+
+// For good, so it is the last of its suite; each suite is a process of its own.
+TEST(LibrariesOfTheSystemFolder, AreTheOnlyOnesThatAreTakenByTheirNames) {
+    const PlantedLibrary library;
+    ASSERT_TRUE(library.Planted());
+    ASSERT_TRUE(UniqueLibrary{::LoadLibraryW(PlantedLibrary::kName)}) << "it would be taken otherwise";
+
+    TakeLibrariesFromSystemFolder();
+
+    EXPECT_FALSE(UniqueLibrary{::LoadLibraryW(PlantedLibrary::kName)});
+    EXPECT_TRUE(UniqueLibrary{::LoadLibraryW(library.Path().c_str())}) << "whose folder is named";
+    EXPECT_TRUE(UniqueLibrary{::LoadLibraryW(L"winmm.dll")});
+    EXPECT_TRUE(LoadSystemLibrary(L"winmm.dll"));
+}
+
+TEST(WindowsProgram, IsNamedFromTheSystemFolder) {
+    EXPECT_EQ(::lstrcmpiW(WindowsProgram(L"control.exe").c_str(), (SystemFolder() + L"\\control.exe").c_str()), 0);
+    EXPECT_EQ(::lstrcmpiW(WindowsProgram(L"shell32.dll").c_str(), (SystemFolder() + L"\\shell32.dll").c_str()), 0);
+}
+
+TEST(WindowsProgram, IsNamedFromTheWindowsFolderWhereItLivesThere) {
+    std::array<wchar_t, MAX_PATH> windows{};
+    ::GetWindowsDirectoryW(windows.data(), MAX_PATH);
+
+    EXPECT_EQ(::lstrcmpiW(WindowsProgram(L"win.ini").c_str(), (std::wstring{windows.data()} + L"\\win.ini").c_str()),
+              0);
+}
+
+TEST(WindowsProgram, IsNeverThatOfTheCurrentFolder) {
+    const PlantedLibrary library;
+    ASSERT_TRUE(library.Planted());
+
+    EXPECT_EQ(WindowsProgram(PlantedLibrary::kName), SystemFolder() + L"\\" + PlantedLibrary::kName);
+}
+
+TEST(WindowsProgram, IsFoundOnTheSearchPathAfterThem) {
+    const korvane::test::TempFolder folder;
+    folder.Write(L"korvane_program.exe", "");
+    folder.Write(L"control.exe", "");
+    std::wstring before(32767, L'\0');
+    before.resize(::GetEnvironmentVariableW(L"PATH", before.data(), 32767));
+    ::SetEnvironmentVariableW(L"PATH", folder.Path().c_str());
+
+    EXPECT_EQ(WindowsProgram(L"korvane_program.exe"), folder.File(L"korvane_program.exe"));
+    EXPECT_NE(WindowsProgram(L"control.exe"), folder.File(L"control.exe"));
+
+    ::SetEnvironmentVariableW(L"PATH", before.c_str());
+}
+
+TEST(WindowsProgram, IsFoundWhereItIsRegisteredUnderItsName) {
+    constexpr const wchar_t* kKey = L"Software\\Microsoft\\Windows\\CurrentVersion\\App Paths\\korvane_registered.exe";
+    constexpr wchar_t kPath[] = L"\"%SystemRoot%\\a folder\\korvane_registered.exe\"";
+    std::array<wchar_t, MAX_PATH> windows{};
+    ::GetWindowsDirectoryW(windows.data(), MAX_PATH);
+    ASSERT_EQ(::RegSetKeyValueW(HKEY_CURRENT_USER, kKey, nullptr, REG_EXPAND_SZ, kPath, sizeof kPath), ERROR_SUCCESS);
+
+    const std::wstring found = WindowsProgram(L"korvane_registered.exe");
+
+    ::RegDeleteTreeW(HKEY_CURRENT_USER, kKey);
+    EXPECT_EQ(found, std::wstring{windows.data()} + L"\\a folder\\korvane_registered.exe");
+}
+
+TEST(WindowsProgram, StaysAsItIsWithAFolderOrWithoutAName) {
+    for (const wchar_t* name : {L"", L"C:\\a\\control.exe", L"a/control.exe", L"C:control.exe"})
+        EXPECT_EQ(WindowsProgram(name), name);
 }
 
 } // namespace

@@ -2,8 +2,13 @@
 
 #include <gmock/gmock.h>
 
+#include <cstdio>
+#include <functional>
 #include <memory>
+#include <stdexcept>
 #include <string>
+
+#include "framework/abnormal_end.h"
 
 #include "tests/support/window_test.h"
 
@@ -24,6 +29,7 @@ public:
 
     explicit LoggedWindow(std::string& log) : log_{log} {}
 
+    std::function<void()> onCreate;
     std::function<void()> onCall;
     bool refusesToBeCreated = false;
     bool deletesItself = false;
@@ -37,6 +43,7 @@ protected:
 private:
     int OnCreate(const CREATESTRUCTW&) {
         log_ += "create;";
+        if (onCreate) onCreate();
         return refusesToBeCreated ? -1 : 0;
     }
     Reply OnDestroy() {
@@ -201,6 +208,71 @@ TEST_F(WindowLifeTest, AnOwnersPopUpsGoBeforeItWhenItAsksForThat) {
     EXPECT_TRUE(::IsWindow(foreign)) << "which its own object takes care of";
 }
 
+// Anything, as a pointer.
+constexpr LPARAM kWildPointer = 0x44332211;
+
+TEST_F(WindowLifeTest, IsBoundOnceHoweverOftenItIsToldOfItsCreation) {
+    LoggedWindow window{log};
+    ASSERT_TRUE(window.Create({.text = L"name", .style = WS_CHILD, .parent = Host()}));
+    log.clear();
+
+    EXPECT_EQ(Send(window.Handle(), WM_NCCREATE, 0, kWildPointer), FALSE);
+    EXPECT_EQ(Send(window.Handle(), WM_CREATE, 0, kWildPointer), 0);
+
+    EXPECT_EQ(WindowObject::From(window.Handle()), &window);
+    EXPECT_EQ(log, "");
+    EXPECT_EQ(Send(window.Handle(), WM_APP, 17), 17);
+}
+
+TEST_F(WindowLifeTest, IsNotBoundToAWindowThatIsCreatedMeanwhile) {
+    LoggedWindow outer{log};
+    LoggedWindow inner{log};
+    outer.onCreate = [&] { EXPECT_TRUE(inner.Create({.style = WS_CHILD, .parent = Host()})); };
+
+    ASSERT_TRUE(outer.Create({.style = WS_CHILD, .parent = Host()}));
+
+    EXPECT_EQ(WindowObject::From(outer.Handle()), &outer);
+    EXPECT_EQ(WindowObject::From(inner.Handle()), &inner);
+    EXPECT_NE(outer.Handle(), inner.Handle());
+}
+
+TEST_F(WindowLifeTest, CanBeCreatedAnewWithANewWindow) {
+    LoggedWindow window{log};
+    ASSERT_TRUE(window.Create({.style = WS_CHILD, .parent = Host()}));
+    ::DestroyWindow(window.Handle());
+    log.clear();
+
+    ASSERT_TRUE(window.Create({.style = WS_CHILD, .parent = Host()}));
+
+    EXPECT_EQ(log, "create;");
+}
+
+TEST_F(WindowLifeTest, NoWindowComesToBeThatNothingStandsBehind) {
+    LoggedWindow window{log};
+    ASSERT_TRUE(window.Create({.style = WS_CHILD, .parent = Host()}));
+
+    EXPECT_EQ(::CreateWindowExW(0, LoggedWindow::kClass.name, L"", WS_CHILD, 0, 0, 0, 0, Host(), nullptr,
+                                ::GetModuleHandleW(nullptr), reinterpret_cast<void*>(kWildPointer)),
+              nullptr);
+}
+
+TEST_F(WindowLifeTest, AnExceptionFromAHandlerEndsTheProcessAfterItsLastAct) {
+    EXPECT_EXIT(
+        {
+            GuardAgainstAbnormalEnd();
+            SetLastAct([] {
+                std::fputs("the last act", stderr);
+                std::fflush(stderr);
+            });
+            LoggedWindow window{log};
+            window.onCall = [] { throw std::runtime_error{"of a handler"}; };
+            (void)window.Create({.style = WS_CHILD, .parent = Host()});
+            Send(window.Handle(), WM_APP);
+            std::fputs("went on", stderr);
+        },
+        testing::ExitedWithCode(kExitUnhandledException), "the last act$");
+}
+
 TEST_F(WindowLifeTest, RefusedCreationLeavesNothingBehind) {
     LoggedWindow window{log};
     window.refusesToBeCreated = true;
@@ -328,6 +400,23 @@ TEST_F(SuperclassTest, IsFoundInEveryKindOfReflectedMessage) {
 
     EXPECT_EQ(button.notifications, 1);
     EXPECT_EQ(button.drawings, 1);
+}
+
+TEST_F(SuperclassTest, HearsNoMessageOfAnotherAsReflected) {
+    DRAWITEMSTRUCT item{};
+    item.hwndItem = button.Handle();
+    // Where others keep such numbers.
+    constexpr UINT kElsewhere = WM_USER + 0x1C00;
+
+    Send(button.Handle(), WM_DRAWITEM, 42, reinterpret_cast<LPARAM>(&item));
+    Send(button.Handle(), WM_DRAWITEM + kElsewhere, 42, kWildPointer);
+    Send(button.Handle(), WM_COMMAND + kElsewhere, 42, kWildPointer);
+    ::PostMessageW(button.Handle(), WM_NOTIFY + kElsewhere, 42, kWildPointer);
+    Pump();
+
+    EXPECT_EQ(button.drawings, 0);
+    EXPECT_EQ(button.commands, 0);
+    EXPECT_EQ(button.notifications, 0);
 }
 
 TEST_F(SuperclassTest, YieldsAnEmptyReplyWhenItDeclines) {

@@ -10,6 +10,8 @@
 #include <vector>
 
 #include "framework/string_table.h"
+#include "framework/system_library.h"
+#include "framework/windows_program.h"
 #include "launch/command_entries.h"
 #include "launch/logic/launch_limits.h"
 #include "launch/stored_line.h"
@@ -564,6 +566,40 @@ TEST_F(LaunchItemTest, HasNothingToDoWithControlPanelEntries) {
     items.PutWholeUpTo(38);
 
     EXPECT_EQ(LoadCommandEntry(4024, items.store).path, L"control.exe");
+}
+
+// Names are compared without regard to case, as the file system does.
+bool SamePath(const std::wstring& one, const std::wstring& other) {
+    return ::CompareStringOrdinal(one.c_str(), -1, other.c_str(), -1, TRUE) == CSTR_EQUAL;
+}
+
+TEST_F(LaunchItemTest, StartsTheControlPanelFromTheSystemFolder) {
+    for (const UINT command : {4001U, 4004U, 4013U, 4022U, 4024U})
+        EXPECT_TRUE(SamePath(ProgramOf(LoadCommandEntry(command, items.store)), fw::SystemFolder() + L"\\control.exe"))
+            << command;
+}
+
+TEST_F(LaunchItemTest, NamesEveryEntryOfItsOwnWithItsFolder) {
+    for (UINT command = 4001; command <= 4027; ++command) {
+        const CommandEntry entry = LoadCommandEntry(command, items.store);
+
+        EXPECT_TRUE(ProgramOf(entry).ends_with(L"\\" + entry.path)) << command;
+    }
+}
+
+TEST_F(LaunchItemTest, StartsAnItemOfTheUsersAsItStands) {
+    items.Put(2, L"control.exe,a.cpl, ,control.exe,0,Name");
+
+    EXPECT_EQ(ProgramOf(LoadCommandEntry(4026, items.store)), L"control.exe");
+    EXPECT_TRUE(SamePath(ProgramOf(LoadCommandEntry(4025, items.store)), fw::WindowsProgram(L"regedit.exe")));
+}
+
+TEST_F(LaunchItemTest, ShowsTheIconOfAnEntry) {
+    items.PutWhole(2);
+    const CommandEntry entry = LoadCommandEntry(4026, items.store);
+
+    EXPECT_EQ(test::ColourOf(IconOf(entry).Get()), test::LaunchItems::ColourOfItem(2));
+    EXPECT_FALSE(IconOf(LoadCommandEntry(4001, items.store))) << "which names none";
 }
 
 } // namespace

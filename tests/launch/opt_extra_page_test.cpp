@@ -7,6 +7,7 @@
 #include <string>
 #include <vector>
 
+#include "framework/system_library.h"
 #include "framework/window_text.h"
 #include "launch/stored_line.h"
 #include "tests/launch/launch_items.h"
@@ -15,6 +16,7 @@
 #include "tests/support/fake_help.h"
 #include "tests/support/gdi_objects.h"
 #include "tests/support/message_box_answer.h"
+#include "tests/support/modal_dialog_answer.h"
 #include "tests/support/window_test.h"
 
 using namespace korvane;
@@ -333,6 +335,95 @@ TEST_F(OptExtraPage, SaysWhenAnItemIsNotItsOwn) {
     EXPECT_EQ(yes.Text(), L"\"他人の\" の削除に失敗しました。");
     EXPECT_EQ(yes.Caption(), L"オプション - ランチ メニューの設定");
     EXPECT_EQ(Names().size(), 4U);
+}
+
+// The editor's field for the name.
+constexpr int kEditorName = IDC_ITEM_NAME;
+
+// Gives the item of an editor another name, and what can be confirmed.
+void RenameIn(HWND editor) {
+    ::SetDlgItemTextW(editor, kEditorName, L"renamed");
+    ::SetDlgItemTextW(editor, IDC_PROGRAM, (fw::SystemFolder() + L"\\cmd.exe").c_str());
+    ::SetDlgItemTextW(editor, IDC_WORKING_FOLDER, L"");
+}
+
+TEST_F(OptExtraPage, EditsItsItemThoughAnotherIsSelectedMeanwhile) {
+    Open(5);
+    SelectRow(1);
+    test::ModalDialogAnswer editor{kEditorName, IDOK, [&](HWND dialog) {
+                                       SelectRow(3);
+                                       RenameIn(dialog);
+                                   }};
+
+    Command(1033);
+
+    EXPECT_EQ(editor.Count(), 1);
+    EXPECT_THAT(Names(), ElementsAre(L"n1", L"renamed", L"n3", L"n4", L"n5"));
+    EXPECT_EQ(Selected(), 1);
+}
+
+TEST_F(OptExtraPage, EditsNothingWhenItsItemHasGoneMeanwhile) {
+    Open(5);
+    SelectRow(1);
+    const test::MessageBoxAnswer yes{IDYES};
+    test::ModalDialogAnswer editor{kEditorName, IDOK, [&](HWND dialog) {
+                                       RenameIn(dialog);
+                                       // Another program may give back what a dialog has taken.
+                                       ::EnableWindow(Host(), TRUE);
+                                       Command(1034);
+                                   }};
+
+    Command(1033);
+
+    EXPECT_THAT(Names(), ElementsAre(L"n1", L"n3", L"n4", L"n5"));
+    EXPECT_TRUE(page->Save());
+    EXPECT_EQ(Stored(2), items.LineOf(3, L"n3"));
+}
+
+TEST_F(OptExtraPage, DeletesItsItemThoughAnotherIsSelectedMeanwhile) {
+    Open(5);
+    SelectRow(1);
+    const test::ModalDialogAnswer yes{IDYES, [&](HWND) { SelectRow(3); }};
+
+    Command(1034);
+
+    EXPECT_THAT(Names(), ElementsAre(L"n1", L"n3", L"n4", L"n5"));
+    EXPECT_EQ(Selected(), 1);
+}
+
+TEST_F(OptExtraPage, SaysWhenItsItemHasGoneMeanwhile) {
+    Open(5);
+    SelectRow(1);
+    int questions = 0;
+    const test::ModalDialogAnswer yes{IDYES, [&](HWND) {
+                                          // The second asks for the same item, and is answered first.
+                                          if (++questions != 1) return;
+                                          ::EnableWindow(Host(), TRUE);
+                                          Command(1034);
+                                      }};
+
+    Command(1034);
+
+    EXPECT_EQ(questions, 3) << "two questions and a message";
+    EXPECT_THAT(Names(), ElementsAre(L"n1", L"n3", L"n4", L"n5"));
+}
+
+TEST_F(OptExtraPage, OpensNoDialogOverTheOneThatItHasOpened) {
+    Open(5);
+    SelectRow(1);
+    int opened = 0;
+    const test::ModalDialogAnswer editor{kEditorName, IDCANCEL, [&](HWND) {
+                                             ++opened;
+                                             for (const int id : {1032, 1033, 1034, 1058})
+                                                 ::PostMessageW(page->Handle(), WM_COMMAND, static_cast<WPARAM>(id), 0);
+                                             ::PostMessageW(page->Handle(), WM_COMMAND, MAKEWPARAM(kList, LBN_DBLCLK),
+                                                            reinterpret_cast<LPARAM>(Control(kList)));
+                                         }};
+
+    Command(1033);
+
+    EXPECT_EQ(opened, 1);
+    EXPECT_THAT(Names(), ElementsAre(L"n1", L"n2", L"n3", L"n4", L"n5"));
 }
 
 TEST_F(OptExtraPage, SkipsARowWithoutAnItem) {

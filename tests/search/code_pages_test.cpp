@@ -96,6 +96,30 @@ TEST(CodePages, TakeAMegabyteInEveryEncoding) {
     EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::seconds{30});
 }
 
+// Of this thread, for the length of a scope.
+class ThreadLocale {
+public:
+    explicit ThreadLocale(LCID locale) : before_{::GetThreadLocale()} { ::SetThreadLocale(locale); }
+    ThreadLocale(const ThreadLocale&) = delete;
+    ThreadLocale& operator=(const ThreadLocale&) = delete;
+    ~ThreadLocale() { ::SetThreadLocale(before_); }
+
+private:
+    LCID before_;
+};
+
+TEST(CodePages, FollowTheSystemThoughTheUsersFormatsAreEnglish) {
+    constexpr LCID kEnglish = 0x0409;
+    ASSERT_EQ(::GetACP(), kJapanese);
+    const ThreadLocale english{kEnglish};
+    ASSERT_EQ(WindowsTextEncoder().Encode(L"\x3042", TextEncoding::kShiftJis), L"%3F") << "in the formats' page";
+
+    FollowSystemLocale();
+
+    EXPECT_EQ(WindowsTextEncoder().Encode(L"\x3042", TextEncoding::kShiftJis), L"%82%A0");
+    EXPECT_EQ(WindowsTextEncoder().Encode(L"\x3042", TextEncoding::kEucJp), L"%A4%A2");
+}
+
 TEST(CodePages, UseTheThreadsPageUnlessToldOtherwise) {
     const std::wstring_view text = L"\x00E9\x3042";
 

@@ -534,6 +534,74 @@ TEST_F(OptCommandPage, EditsTheSelectedCommandInItsPlace) {
     EXPECT_TRUE(Text(kDetails).starts_with(L"コマンド 名: new\r\n"));
 }
 
+TEST_F(OptCommandPage, EditsItsCommandThoughAnotherIsSelectedMeanwhile) {
+    Open(1, 3);
+    SelectUser(1);
+    test::ModalDialogAnswer answer{kEditorLine, IDOK, [&](HWND editor) {
+                                       Select(kUserList, 2);
+                                       ::SetDlgItemTextW(editor, kEditorName, L"new");
+                                   }};
+
+    Press(kEdit);
+
+    EXPECT_EQ(answer.Count(), 1);
+    EXPECT_THAT(Rows(kUserList), ElementsAre(L"u1", L"new", L"u3"));
+    EXPECT_EQ(Selected(kUserList), 1);
+}
+
+TEST_F(OptCommandPage, DeletesItsCommandThoughAnotherIsSelectedMeanwhile) {
+    Open(1, 3);
+    SelectUser(1);
+    const test::ModalDialogAnswer yes{IDYES, [&](HWND) { Select(kUserList, 2); }};
+
+    Press(kDelete);
+
+    EXPECT_THAT(Rows(kUserList), ElementsAre(L"u1", L"u3"));
+}
+
+TEST_F(OptCommandPage, EditsNothingWhenItsCommandHasGoneMeanwhile) {
+    Open(1, 3);
+    SelectUser(1);
+    test::ModalDialogAnswer answer{kEditorLine, IDOK, [&](HWND editor) {
+                                       ::SetDlgItemTextW(editor, kEditorName, L"new");
+                                       // Another program may give back what a dialog has taken.
+                                       ::EnableWindow(::GetAncestor(page->Handle(), GA_ROOT), TRUE);
+                                       const test::MessageBoxAnswer yes{IDYES};
+                                       Send(page->Handle(), WM_COMMAND, kDelete);
+                                   }};
+
+    Press(kEdit);
+
+    EXPECT_THAT(Rows(kUserList), ElementsAre(L"u1", L"u3"));
+}
+
+TEST_F(OptCommandPage, OpensNoDialogOverTheOneThatItHasOpened) {
+    Open(1, 3);
+    SelectUser(1);
+    int opened = 0;
+    const test::ModalDialogAnswer answer{kEditorLine, IDCANCEL, [&](HWND) {
+                                             ++opened;
+                                             for (const int id : {kAdd, kEdit, kDelete})
+                                                 ::PostMessageW(page->Handle(), WM_COMMAND, static_cast<WPARAM>(id), 0);
+                                         }};
+
+    Press(kEdit);
+
+    EXPECT_EQ(opened, 1);
+    EXPECT_EQ(answer.Count(), 1);
+    EXPECT_THAT(Rows(kUserList), ElementsAre(L"u1", L"u2", L"u3"));
+}
+
+TEST_F(OptCommandPage, TellsTheLimitOnlyWhenItHasBeenMet) {
+    Open(40, 20, 38, 12);
+    const test::MessageBoxAnswer answer{IDOK};
+
+    ::PostMessageW(page->Handle(), COptCommandPage::kTellLimit, 0, 0);
+    Pump();
+
+    EXPECT_EQ(answer.Count(), 0);
+}
+
 TEST_F(OptCommandPage, EditsWithADoubleClickAndKeepsTheCheck) {
     Open(1, 2, 0, 1);
     Press(kUserRadio);

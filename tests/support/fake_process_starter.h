@@ -1,6 +1,9 @@
 #pragma once
 
+#include <algorithm>
+#include <optional>
 #include <string>
+#include <vector>
 
 #include "search/logic/process_starter.h"
 
@@ -20,6 +23,16 @@ public:
     [[nodiscard]] int Open(const std::wstring& file) override {
         log += L"open " + file + L"\n";
         return openResult;
+    }
+    [[nodiscard]] int OpenProgram(const std::wstring& program, const std::wstring& arguments) override {
+        log += L"open " + program + L" with " + arguments + L"\n";
+        return openResult;
+    }
+    // Finds the names of these programs.
+    std::vector<std::wstring> programs;
+    [[nodiscard]] std::optional<std::wstring> FindProgram(const std::wstring& name) override {
+        if (std::ranges::find(programs, name) == programs.end()) return std::nullopt;
+        return L"<" + name + L">";
     }
 };
 

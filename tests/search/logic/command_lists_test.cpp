@@ -546,3 +546,51 @@ TEST(CommandTexts, TellsEachTextOnALineOfItsOwn) {
     EXPECT_EQ(DetailsOf({1, L"n", L"l", L""}, formats), L"N: n\r\nL: l");
     EXPECT_EQ(DetailsOf({1, L"%s%d", L"<%Search%>", L"100%"}, formats), L"N: %s%d\r\nL: <%Search%>\r\nC: 100%");
 }
+
+TEST_F(CommandListsTest, FindsAMarkedCommandAgain) {
+    Load(2, 4);
+    Show(kUser, 1);
+    const auto mark = lists.Mark();
+    ASSERT_TRUE(mark);
+
+    Show(kUser, 2);
+    lists.MoveUp();
+    Show(kStandard, 0);
+
+    EXPECT_TRUE(lists.GoBackTo(*mark));
+    EXPECT_EQ(lists.ShownKind(), kUser);
+    EXPECT_EQ(lists.Selected(), 2U);
+    ASSERT_NE(lists.SelectedCommand(), nullptr);
+    EXPECT_EQ(lists.SelectedCommand()->name, L"u2");
+}
+
+TEST_F(CommandListsTest, TellsAMarkedCommandFromItsDuplicates) {
+    Load(0, 2);
+    Show(kUser, 0);
+    lists.Copy();
+    const auto mark = lists.Mark();
+    lists.Paste();
+    lists.Paste();
+
+    EXPECT_TRUE(lists.GoBackTo(*mark));
+
+    EXPECT_EQ(lists.Selected(), 2U);
+}
+
+TEST_F(CommandListsTest, FindsAMarkedCommandNoMoreWhenItIsGone) {
+    Load(0, 3);
+    Show(kUser, 1);
+    const auto mark = lists.Mark();
+    lists.Remove();
+    Show(kUser, 0);
+
+    EXPECT_FALSE(lists.GoBackTo(*mark));
+
+    EXPECT_EQ(lists.Selected(), 0U);
+}
+
+TEST_F(CommandListsTest, MarksNothingWhenNothingIsSelected) {
+    Load(1, 1);
+
+    EXPECT_FALSE(lists.Mark());
+}

@@ -7,6 +7,12 @@
 using namespace korvane::search;
 using korvane::test::FakeProcessStarter;
 
+namespace {
+
+constexpr unsigned long kElevationRequired = 740;
+
+} // namespace
+
 TEST(TypedCommand, IsRunAsItStands) {
     EXPECT_EQ(CommandLineOfTyped(L"notepad  a.txt "), L"notepad  a.txt ");
     EXPECT_EQ(CommandLineOfTyped(L""), L"");
@@ -71,6 +77,73 @@ TEST(RunningATypedCommand, NeverTakesTheShellsZeroForSuccess) {
     starter.openResult = 0;
 
     EXPECT_EQ(RunTypedCommand(L"x", starter), RunOutcome{8});
+}
+
+TEST(RunningATypedCommand, StartsAProgramThatNeedsMoreRightsWithItsArguments) {
+    FakeProcessStarter starter;
+    starter.startError = kElevationRequired;
+    starter.programs = {L"regedit", L"regedit /e"};
+
+    EXPECT_TRUE(RunTypedCommand(L"regedit /e out.reg", starter).Started());
+
+    EXPECT_EQ(starter.log, L"start regedit /e out.reg\nopen <regedit> with /e out.reg\n");
+}
+
+TEST(RunningATypedCommand, FindsAProgramThatNeedsMoreRightsInAFolderWithBlanks) {
+    FakeProcessStarter starter;
+    starter.startError = kElevationRequired;
+    starter.programs = {L"C:\\Program Files\\Set Up.exe"};
+
+    EXPECT_TRUE(RunTypedCommand(L"C:\\Program Files\\Set Up.exe /s  a b", starter).Started());
+    EXPECT_TRUE(RunTypedCommand(L"\"C:\\Program Files\\Set Up.exe\"  /s", starter).Started());
+
+    EXPECT_EQ(starter.log, L"start C:\\Program Files\\Set Up.exe /s  a b\n"
+                           L"open <C:\\Program Files\\Set Up.exe> with /s  a b\n"
+                           L"start \"C:\\Program Files\\Set Up.exe\"  /s\n"
+                           L"open <C:\\Program Files\\Set Up.exe> with /s\n");
+}
+
+TEST(RunningATypedCommand, ReportsThatTheUserRefusedMoreRights) {
+    FakeProcessStarter starter;
+    starter.startError = kElevationRequired;
+    starter.programs = {L"regedit"};
+    starter.openResult = 5;
+
+    EXPECT_EQ(RunTypedCommand(L"regedit", starter), RunOutcome{5});
+    EXPECT_EQ(starter.log, L"start regedit\nopen <regedit> with \n");
+}
+
+TEST(RunningATypedCommand, LeavesAProgramThatNobodyFindsToTheShellAsItStands) {
+    FakeProcessStarter starter;
+    starter.startError = kElevationRequired;
+
+    EXPECT_TRUE(RunTypedCommand(L"a b", starter).Started());
+
+    EXPECT_EQ(starter.log, L"start a b\nopen a b\n");
+}
+
+TEST(RunningATypedCommand, GivesTheShellTheWholeLineAfterAnyOtherError) {
+    FakeProcessStarter starter;
+    starter.startError = 5;
+    starter.programs = {L"regedit"};
+
+    EXPECT_TRUE(RunTypedCommand(L"regedit /e", starter).Started());
+
+    EXPECT_EQ(starter.log, L"start regedit /e\nopen regedit /e\n");
+}
+
+TEST(PartingACommandLine, TakesMoreAndMoreWordsForTheProgram) {
+    EXPECT_EQ(PartingsOf(L"a  b c"), (std::vector<CommandParts>{{L"a", L"b c"}, {L"a  b", L"c"}, {L"a  b c", L""}}));
+}
+
+TEST(PartingACommandLine, KeepsToTheQuotationMarks) {
+    EXPECT_EQ(PartingsOf(L" \"a b\" c d"), (std::vector<CommandParts>{{L"a b", L"c d"}}));
+    EXPECT_EQ(PartingsOf(L"\"a b"), (std::vector<CommandParts>{{L"a b", L""}}));
+}
+
+TEST(PartingACommandLine, FindsNothingInBlanks) {
+    EXPECT_TRUE(PartingsOf(L"").empty());
+    EXPECT_TRUE(PartingsOf(L" \t").empty());
 }
 
 TEST(PickedPath, ReplacesTheText) {
