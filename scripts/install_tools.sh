@@ -1,5 +1,7 @@
 #!/usr/bin/env bash
-# Installs what building, running and testing need on Debian 12. Does nothing, and quickly, when all of it is there.
+# Installs what building, running and testing need on Debian 12, and the packages that are named beside that. Does
+# nothing, and quickly, when all of it is there.
+#   install_tools.sh --has-locale  only tells by its exit code whether the locale of the tests is there
 set -euo pipefail
 
 packages=(
@@ -15,7 +17,13 @@ missing_packages() {
         "${packages[@]}" 2>/dev/null |
         awk 'FILENAME == "-" { if ($1 == "installed") have[$2] = 1; next } !($1 in have)' - <(printf '%s\n' "${packages[@]}")
 }
-has_locale() { locale -a 2>/dev/null | grep -qix 'ja_JP\.utf-\?8'; }
+has_locale() { locale -a 2>/dev/null | grep -ix 'ja_JP\.utf-\?8' >/dev/null; }
+
+if [ "${1:-}" = --has-locale ]; then
+    has_locale
+    exit
+fi
+packages+=("$@")
 
 mapfile -t missing < <(missing_packages)
 if [ ${#missing[@]} -eq 0 ] && has_locale; then

@@ -17,6 +17,15 @@ quietly() {
     return "$status"
 }
 
+# prepare_machine COMMAND...: installs what this machine lacks. COMMAND is the script that asks, with its arguments: it
+# begins anew when the locale was missing, because the C library of a running shell goes on without it.
+prepare_machine() {
+    local tools="$KORVANE_ROOT/scripts/install_tools.sh" before=missing
+    ! "$tools" --has-locale || before=there
+    "$tools"
+    [ "$before" = there ] || exec "$@"
+}
+
 # build_preset PRESET [TARGET...]: configures when needed and builds.
 build_preset() {
     local preset=$1
@@ -44,11 +53,18 @@ wine_server() {
     die 'no wineserver found'
 }
 
+# The free font that stands for Windows' own interface fonts: of its family the one with the strongest strokes.
+interface_font=/usr/share/fonts/truetype/horai-umefont/ume-ugo5.ttf
+
 # wine_template ARCH: makes sure that a freshly initialised prefix of that kind (win32, win64) exists, and prints its
 # folder. It is remade when Wine or the defaults change. Prefixes in use are clones of it.
 wine_template() {
     local arch=$1 folder="$KORVANE_ROOT/build/wine/template-$1" key
-    key=$({ wine --version; cat "$KORVANE_ROOT/scripts/wine_defaults.reg" "$KORVANE_ROOT/scripts/rename_font.py"; } 2>/dev/null | sha256sum | cut -c1-16)
+    key=$({
+        wine --version
+        echo "$interface_font"
+        cat "$KORVANE_ROOT/scripts/wine_defaults.reg" "$KORVANE_ROOT/scripts/rename_font.py"
+    } 2>/dev/null | sha256sum | cut -c1-16)
     mkdir -p "$KORVANE_ROOT/build/wine"
     (
         flock 9
@@ -58,7 +74,7 @@ wine_template() {
             use_wine_environment
             export WINEPREFIX=$folder WINEARCH=$arch
             quietly wine wineboot -i || die "cannot make a $arch prefix"
-            python3 "$KORVANE_ROOT/scripts/rename_font.py" /usr/share/fonts/truetype/horai-umefont/ume-ugo4.ttf \
+            python3 "$KORVANE_ROOT/scripts/rename_font.py" "$interface_font" \
                 "$folder/drive_c/windows/Fonts/narrow_kana_ui.ttf" 'Narrow Kana UI' || die 'cannot make the font'
             quietly wine regedit "$KORVANE_ROOT/scripts/wine_defaults.reg" || die 'cannot set the defaults'
             (wine_server -w)
@@ -123,8 +139,9 @@ start_display() {
 stop_display() {
     local pid
     for pid in $DISPLAY_PIDS; do
-        kill "$pid" 2>/dev/null
-        wait "$pid" 2>/dev/null
+        # How they end is of no interest.
+        kill "$pid" 2>/dev/null || true
+        wait "$pid" 2>/dev/null || true
     done
     DISPLAY_PIDS=''
 }
