@@ -122,7 +122,7 @@ void CDropDownDialog::SelectRow(int row) {
     const bool chosen = ActionOfRow(setup_.rows[static_cast<std::size_t>(row)].number) != HistoryAction::kNone;
     LVITEMW item{};
     item.stateMask = LVIS_SELECTED | LVIS_FOCUSED;
-    item.state = chosen ? LVIS_SELECTED | LVIS_FOCUSED : LVIS_FOCUSED;
+    if (chosen) item.state = item.stateMask;
     ::SendMessageW(list_, LVM_SETITEMSTATE, static_cast<WPARAM>(row), reinterpret_cast<LPARAM>(&item));
     ::SendMessageW(list_, LVM_ENSUREVISIBLE, static_cast<WPARAM>(row), FALSE);
 }
