@@ -293,11 +293,15 @@ void CMainFrame::OnSetFocus(const fw::Message&) {
     ::SetFocus(lastFocus_);
 }
 
-fw::Reply CMainFrame::OnActivate(UINT how, bool) {
+fw::Reply CMainFrame::OnActivate(const fw::Message& message) {
+    const UINT how = LOWORD(message.wparam);
     // The default procedure gives the focus to the frame on the way back, and the frame passes it on.
     const HWND focus = ::GetFocus();
     if (how == WA_INACTIVE && IsBox(focus)) lastFocus_ = focus;
     docking_.OnActivated(how != WA_INACTIVE);
+    const auto other = reinterpret_cast<HWND>(message.lparam);
+    if (how != WA_INACTIVE && !BelongsTo(Handle(), other)) docking_.OnBroughtToFront();
+    caption_.OnActivate(Handle(), how, other);
     return fw::kPassOn;
 }
 

@@ -9,6 +9,7 @@
 
 #include "about/help_opener.h"
 #include "about/help_session.h"
+#include "app/active_caption.h"
 #include "app/bar_controls.h"
 #include "app/clipboard_monitor.h"
 #include "app/logic/bar_layout.h"
@@ -187,7 +188,7 @@ private:
     LRESULT OnHitTest(const fw::Message& message);
     bool OnEraseBackground(HDC dc);
     void OnSetFocus(const fw::Message& message);
-    fw::Reply OnActivate(UINT how, bool minimised);
+    fw::Reply OnActivate(const fw::Message& message);
     fw::Reply OnActivateApp(const fw::Message& message);
     void OnHotKey(int id);
     void OnHelp(const fw::Message& message);
@@ -296,6 +297,7 @@ private:
     Docking docking_{shell_, *this, settings_};
     std::array<fw::Timer, 4> dockTimers_; // by identifier, from 1
     bool wasActive_ = false;              // before it was hidden
+    ActiveCaption caption_;
     bool narrowReported_ = false;
 
     ClipboardMonitor clipboard_;

@@ -200,7 +200,9 @@ void CMainFrame::WatchTyping(const MSG& message) {
 }
 
 fw::Reply CMainFrame::OnActivateApp(const fw::Message& message) {
-    docking_.OnProgramActivated(message.wparam != FALSE);
+    const bool active = message.wparam != FALSE;
+    if (!active) docking_.OnTypingEnded();
+    caption_.OnActivateApp(Handle(), active);
     return fw::kPassOn;
 }
 

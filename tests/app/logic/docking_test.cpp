@@ -429,7 +429,7 @@ TEST_F(DockingTest, HidesWhenWhatIsTypedGoesElsewhere) {
 TEST_F(DockingTest, ABarThatOnlyTheMouseBroughtOutGoesWithTheMouse) {
     DockHidden();
     window.hasKeyboard = true;
-    docking.OnProgramActivated(true);
+    docking.OnBroughtToFront();
     docking.OnHitTest();
     window.cursorInside = true;
     docking.OnTimer(DockTimer::kShowCheck);
@@ -446,22 +446,10 @@ TEST_F(DockingTest, ABarThatIsOutIsTypedIntoFromTheMomentItComesToTheFront) {
     docking.ShowOnDemand();
     window.hasKeyboard = true;
 
-    docking.OnProgramActivated(true);
+    docking.OnBroughtToFront();
     docking.OnTimer(DockTimer::kHideCheck);
 
     EXPECT_FALSE(docking.Hidden());
-}
-
-TEST_F(DockingTest, ABarThatLeftTheFrontIsNotTypedIntoWhenItsDialogReturnsTheKeyboard) {
-    DockHidden();
-    docking.ShowOnDemand();
-    docking.OnTyping();
-    docking.OnProgramActivated(false);
-
-    window.hasKeyboard = true;
-    docking.OnTimer(DockTimer::kHideCheck);
-
-    EXPECT_TRUE(docking.Hidden());
 }
 
 TEST_F(DockingTest, WhatWasTypedBeforeItHidDoesNotKeepItOutTheNextTime) {
