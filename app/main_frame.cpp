@@ -33,9 +33,6 @@ namespace {
 constexpr const wchar_t* kCommandIconFile = L"shell32.dll";
 constexpr int kCommandIconIndex = 24;
 
-// Beside the timers of docking.
-constexpr UINT_PTR kClipboardTimer = 5;
-
 } // namespace
 
 CMainFrame::CMainFrame(fw::MessageLoop& loop, about::HelpSession& help, FramePlaces places)
@@ -241,7 +238,7 @@ fw::Reply CMainFrame::OnMove(const fw::Message&) {
 }
 
 fw::Reply CMainFrame::OnTimer(UINT_PTR id) {
-    if (clipboard_.OnTimer(id)) return LRESULT{0};
+    if (clipboard_.OnTimer(id) || notificationIcon_.OnTimer(id)) return LRESULT{0};
     if (id < 1 || id > dockTimers_.size()) return fw::kPassOn;
     docking_.OnTimer(static_cast<DockTimer>(id));
     return LRESULT{0};

@@ -261,6 +261,10 @@ private:
     void Warn(const std::wstring& text);
     void ReportError(DWORD code, fw::Centring centring = fw::Centring::kOnOwner);
 
+    // Beside the timers of docking.
+    static constexpr UINT_PTR kClipboardTimer = 5;
+    static constexpr UINT_PTR kIconTimer = 6;
+
     fw::MessageLoop& loop_;
     about::HelpSession& help_;
     FramePlaces places_;
@@ -292,7 +296,7 @@ private:
     search::WinProcessStarter starter_;
     search::SearchTextEncoder encoder_;
 
-    NotificationIcon notificationIcon_;
+    NotificationIcon notificationIcon_{kIconTimer};
     WinShell shell_;
     Docking docking_{shell_, *this, settings_};
     std::array<fw::Timer, 4> dockTimers_; // by identifier, from 1
