@@ -10,7 +10,6 @@
 #include "framework/gdi.h"
 #include "framework/icons.h"
 #include "framework/late_bound.h"
-#include "framework/monitors.h"
 #include "framework/scoped_flag.h"
 #include "framework/string_table.h"
 #include "framework/windows_version.h"
@@ -124,17 +123,14 @@ bool CMainFrame::CreateChildren() {
 }
 
 void CMainFrame::BeginDocking() {
-    const auto workAreas = fw::WorkAreas();
-    const base::Rect primary = workAreas.empty() ? base::Rect{} : workAreas.front();
-    base::Rect floating = DefaultFloatingRect(primary, Borders(), fw::Scale());
+    base::Rect floating;
     if (settings_.Read(keys::SaveWindowPlacement) == 1) {
         if (const auto bytes = settings_.Read(keys::WindowPosRect))
-            if (const auto saved = settings::DecodeRect(*bytes))
-                floating = settings::ReachableRect(*saved, workAreas, fw::Scale()).value_or(floating);
+            floating = settings::DecodeRect(*bytes).value_or(floating);
     }
     shell_.SetWindow(Handle());
     docking_.Begin({.windows8OrLater = fw::IsWindowsAtLeast(fw::kWindows8), .scale = fw::Scale()}, StartsDocked(),
-                   WithBarHeight(floating, Borders(), fw::Scale()));
+                   WithBarHeight(Reachable(floating), Borders(), fw::Scale()));
 }
 
 void CMainFrame::ApplySettings() {

@@ -147,7 +147,8 @@ private:
     [[nodiscard]] bool IsBox(HWND window) const;
 
     // DockedWindow
-    [[nodiscard]] base::Rect WorkArea() const override;
+    [[nodiscard]] base::Rect WorkAreaAt(const base::Rect& place) const override;
+    [[nodiscard]] base::Rect Reachable(const base::Rect& place) const override;
     [[nodiscard]] base::Rect Place() const override;
     [[nodiscard]] bool Visible() const override;
     void Hide() override;

@@ -103,7 +103,8 @@ private:
     Edge edge_ = Edge::kTop;
     int hiddenThicknessPx_ = kHiddenThicknessPx;
     base::Rect floatingRect_;
-    base::Rect dockedRect_; // the whole bar, captured when it begins to hide
+    base::Rect dockedRect_;              // the whole bar, captured when it begins to hide
+    std::optional<base::Rect> cameFrom_; // while the bar docks again
 
     bool known_ = false; // to the shell, as far as it let itself be told
     std::optional<base::Rect> lastReserved_;

@@ -99,6 +99,17 @@ TEST_F(DockedFrameTest, ComesBackToTheRectangleThatItFloatedAt) {
     EXPECT_EQ(fw::WindowRect(Bar().Handle()), floating);
 }
 
+TEST_F(DockedFrameTest, ComesBackWithinReachWhereItsMonitorIsGone) {
+    Bar();
+    ::SetWindowPos(Bar().Handle(), nullptr, -9000, -9000, 1100, 60, SWP_NOZORDER | SWP_NOACTIVATE | SWP_SHOWWINDOW);
+
+    Command(ID_DESKTOP_BAR_MODE);
+    Command(ID_DESKTOP_BAR_MODE);
+
+    const base::Rect place = fw::WindowRect(Bar().Handle());
+    EXPECT_EQ(base::Intersection(place, fw::WorkAreas().front()), place);
+}
+
 TEST_F(DockedFrameTest, SavesItsModeAndTheRectangleThatItFloatedAt) {
     settings.Write(keys::SaveWindowPlacement, 1);
     settings.Write(keys::ConfirmExitApp, 1);
