@@ -10,7 +10,6 @@
 #include "framework/gdi.h"
 #include "framework/icons.h"
 #include "framework/late_bound.h"
-#include "framework/monitors.h"
 #include "framework/scoped_flag.h"
 #include "framework/string_table.h"
 #include "framework/windows_version.h"
@@ -32,9 +31,6 @@ namespace {
 // The prompt-like picture before the command input box.
 constexpr const wchar_t* kCommandIconFile = L"shell32.dll";
 constexpr int kCommandIconIndex = 24;
-
-// Beside the timers of docking.
-constexpr UINT_PTR kClipboardTimer = 5;
 
 } // namespace
 
@@ -129,17 +125,14 @@ bool CMainFrame::CreateChildren() {
 }
 
 void CMainFrame::BeginDocking() {
-    const auto workAreas = fw::WorkAreas();
-    const base::Rect primary = workAreas.empty() ? base::Rect{} : workAreas.front();
-    base::Rect floating = DefaultFloatingRect(primary, Borders(), fw::Scale());
+    base::Rect floating;
     if (settings_.Read(keys::SaveWindowPlacement) == 1) {
         if (const auto bytes = settings_.Read(keys::WindowPosRect))
-            if (const auto saved = settings::DecodeRect(*bytes))
-                floating = settings::ReachableRect(*saved, workAreas, fw::Scale()).value_or(floating);
+            floating = settings::DecodeRect(*bytes).value_or(floating);
     }
     shell_.SetWindow(Handle());
     docking_.Begin({.windows8OrLater = fw::IsWindowsAtLeast(fw::kWindows8), .scale = fw::Scale()}, StartsDocked(),
-                   WithBarHeight(floating, Borders(), fw::Scale()));
+                   WithBarHeight(Reachable(floating), Borders(), fw::Scale()));
 }
 
 void CMainFrame::ApplySettings() {
@@ -248,7 +241,7 @@ fw::Reply CMainFrame::OnMove(const fw::Message&) {
 }
 
 fw::Reply CMainFrame::OnTimer(UINT_PTR id) {
-    if (clipboard_.OnTimer(id)) return LRESULT{0};
+    if (clipboard_.OnTimer(id) || notificationIcon_.OnTimer(id)) return LRESULT{0};
     if (id < 1 || id > dockTimers_.size()) return fw::kPassOn;
     docking_.OnTimer(static_cast<DockTimer>(id));
     return LRESULT{0};
@@ -300,16 +293,23 @@ void CMainFrame::OnSetFocus(const fw::Message&) {
     ::SetFocus(keyboard_.BoxWindow(keyboard_.Home()).Handle());
 }
 
-fw::Reply CMainFrame::OnActivate(UINT how, bool) {
+fw::Reply CMainFrame::OnActivate(const fw::Message& message) {
+    const UINT how = LOWORD(message.wparam);
     docking_.OnActivated(how != WA_INACTIVE);
+    const auto other = reinterpret_cast<HWND>(message.lparam);
+    if (how != WA_INACTIVE && !BelongsTo(Handle(), other)) docking_.OnBroughtToFront();
+    caption_.OnActivate(Handle(), how, other);
     // On the way back the default procedure gives the focus to the frame, and the frame passes it on.
     return fw::kPassOn;
 }
 
 fw::Reply CMainFrame::OnActivateApp(const fw::Message& message) {
     const bool active = message.wparam != FALSE;
-    if (!active) keyboard_.ForgetOrigin();
-    docking_.OnProgramActivated(active);
+    if (!active) {
+        keyboard_.ForgetOrigin();
+        docking_.OnTypingEnded();
+    }
+    caption_.OnActivateApp(Handle(), active);
     return fw::kPassOn;
 }
 

@@ -10,6 +10,7 @@
 
 #include "about/help_opener.h"
 #include "about/help_session.h"
+#include "app/active_caption.h"
 #include "app/bar_controls.h"
 #include "app/bar_drop.h"
 #include "app/bar_keyboard.h"
@@ -155,7 +156,8 @@ private:
     [[nodiscard]] bool IsBox(HWND window) const;
 
     // DockedWindow
-    [[nodiscard]] base::Rect WorkArea() const override;
+    [[nodiscard]] base::Rect WorkAreaAt(const base::Rect& place) const override;
+    [[nodiscard]] base::Rect Reachable(const base::Rect& place) const override;
     [[nodiscard]] base::Rect Place() const override;
     [[nodiscard]] bool Visible() const override;
     void Hide() override;
@@ -196,7 +198,7 @@ private:
     LRESULT OnHitTest(const fw::Message& message);
     bool OnEraseBackground(HDC dc);
     void OnSetFocus(const fw::Message& message);
-    fw::Reply OnActivate(UINT how, bool minimised);
+    fw::Reply OnActivate(const fw::Message& message);
     fw::Reply OnActivateApp(const fw::Message& message);
     fw::Reply OnContextMenu(const fw::Message& message);
     void OnHotKey(int id);
@@ -280,6 +282,10 @@ private:
     void Warn(const std::wstring& text);
     void ReportError(DWORD code, fw::Centring centring = fw::Centring::kOnOwner);
 
+    // Beside the timers of docking.
+    static constexpr UINT_PTR kClipboardTimer = 5;
+    static constexpr UINT_PTR kIconTimer = 6;
+
     fw::MessageLoop& loop_;
     about::HelpSession& help_;
     FramePlaces places_;
@@ -315,11 +321,12 @@ private:
     search::WinProcessStarter starter_;
     search::SearchTextEncoder encoder_;
 
-    NotificationIcon notificationIcon_;
+    NotificationIcon notificationIcon_{kIconTimer};
     WinShell shell_;
     Docking docking_{shell_, *this, settings_};
     std::array<fw::Timer, 4> dockTimers_; // by identifier, from 1
     bool wasActive_ = false;              // before it was hidden
+    ActiveCaption caption_;
     bool narrowReported_ = false;
 
     ClipboardMonitor clipboard_;

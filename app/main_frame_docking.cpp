@@ -1,4 +1,5 @@
 // The frame as docking moves it, and the messages that make it move.
+#include "app/logic/floating_window.h"
 #include "app/logic/start_checks.h"
 #include "app/logic/typing_rules.h"
 #include "app/main_frame.h"
@@ -10,6 +11,7 @@
 #include "framework/string_table.h"
 #include "framework/windows_version.h"
 #include "settings/logic/setting_keys.h"
+#include "settings/logic/window_placement.h"
 
 namespace korvane::app {
 
@@ -96,8 +98,15 @@ base::Size CMainFrame::Borders() const {
     return fw::FromWindows(frame).Extent();
 }
 
-base::Rect CMainFrame::WorkArea() const {
-    return fw::WorkAreaOf(Handle());
+base::Rect CMainFrame::WorkAreaAt(const base::Rect& place) const {
+    return fw::WorkAreaAt(place);
+}
+
+base::Rect CMainFrame::Reachable(const base::Rect& place) const {
+    const std::vector<base::Rect> workAreas = fw::WorkAreas();
+    if (const auto reachable = settings::ReachableRect(place, workAreas, fw::Scale())) return *reachable;
+    const base::Rect primary = workAreas.empty() ? base::Rect{} : workAreas.front();
+    return DefaultFloatingRect(primary, Borders(), fw::Scale());
 }
 
 base::Rect CMainFrame::Place() const {

@@ -6,6 +6,8 @@
 
 #include <functional>
 
+#include "framework/timer.h"
+
 namespace korvane::app {
 
 // The program's icon in the notification area. The mouse over it reaches its window as kMessage, with the mouse message
@@ -17,13 +19,15 @@ public:
     // Tells the shell; tests listen in its place.
     using Shell = std::function<BOOL(DWORD message, NOTIFYICONDATAW* data)>;
 
-    explicit NotificationIcon(Shell shell = &::Shell_NotifyIconW) : shell_{std::move(shell)} {}
+    // The timer is the window's one of this identifier. It runs only while a busy shell is to be asked again.
+    explicit NotificationIcon(UINT_PTR timerId, Shell shell = &::Shell_NotifyIconW)
+        : timerId_{timerId}, shell_{std::move(shell)} {}
     NotificationIcon(const NotificationIcon&) = delete;
     NotificationIcon& operator=(const NotificationIcon&) = delete;
     ~NotificationIcon() { Remove(); }
 
     // The small icon stays the caller's, who keeps it for as long as this one is there. False when there is no
-    // notification area yet; the icon then appears with it.
+    // notification area yet, or the shell is too busy to answer; the icon then appears later.
     bool Add(HWND window, HICON smallIcon);
     // Harmless when there is no icon.
     void Remove();
@@ -32,11 +36,19 @@ public:
     // start, and when it had to be started again.
     [[nodiscard]] static UINT AreaCreatedMessage();
     void OnAreaCreated();
+    // WM_TIMER. False when the timer is another's.
+    bool OnTimer(UINT_PTR id);
 
 private:
-    bool Tell(DWORD message);
+    enum class Before { kNotThere, kPerhapsThere };
+    bool Try(Before before);
+    // ERROR_SUCCESS when the shell did it. A refusal may come without a reason.
+    DWORD Tell(DWORD message);
 
+    UINT_PTR timerId_;
     Shell shell_;
+    fw::Timer timer_;
+    int attempts_ = 0;
     HWND window_ = nullptr;
     HICON icon_ = nullptr;
 };

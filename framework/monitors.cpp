@@ -35,4 +35,9 @@ Rect WorkAreaOf(HWND window) {
     return FromWindows(InfoOf(::MonitorFromWindow(window, MONITOR_DEFAULTTONEAREST)).rcWork);
 }
 
+Rect WorkAreaAt(const Rect& place) {
+    const RECT rect = ToWindows(place);
+    return FromWindows(InfoOf(::MonitorFromRect(&rect, MONITOR_DEFAULTTONEAREST)).rcWork);
+}
+
 } // namespace fw

@@ -11,7 +11,8 @@ namespace fw {
 // The work areas of all monitors, the primary one first.
 [[nodiscard]] std::vector<korvane::base::Rect> WorkAreas();
 
-// The work area of the monitor that is nearest to a window.
+// The work area of the monitor that is nearest to a window, or to a rectangle of the screen.
 [[nodiscard]] korvane::base::Rect WorkAreaOf(HWND window);
+[[nodiscard]] korvane::base::Rect WorkAreaAt(const korvane::base::Rect& place);
 
 } // namespace fw

@@ -26,8 +26,10 @@ class DockedWindow {
 public:
     virtual ~DockedWindow() = default;
 
-    // Of the monitor that is nearest to the window.
-    [[nodiscard]] virtual base::Rect WorkArea() const = 0;
+    // Of the monitor that is nearest to a rectangle.
+    [[nodiscard]] virtual base::Rect WorkAreaAt(const base::Rect& place) const = 0;
+    // The rectangle itself where the user can get hold of a window there, otherwise the nearest such one.
+    [[nodiscard]] virtual base::Rect Reachable(const base::Rect& place) const = 0;
     [[nodiscard]] virtual base::Rect Place() const = 0;
     [[nodiscard]] virtual bool Visible() const = 0;
     virtual void Hide() = 0;

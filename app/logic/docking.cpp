@@ -75,7 +75,8 @@ void Docking::Float() {
     Put(ZOrder::kNotTopmost);
     GiveBack();
     window_.ShowControls(true);
-    window_.MoveTo(floatingRect_, ZOrder::kKeep);
+    // Its monitor may be gone. The place is kept: the monitor may come back.
+    window_.MoveTo(window_.Reachable(floatingRect_), ZOrder::kKeep);
     window_.BecomeFloating(topmost);
 }
 
@@ -99,7 +100,8 @@ void Docking::RegisterWithShell() {
 }
 
 void Docking::Reserve(int thicknessPx) {
-    const base::Rect area = WithoutReservation(window_.WorkArea(), lastReserved_, edge_);
+    const base::Rect nearest = window_.WorkAreaAt(cameFrom_.value_or(window_.Place()));
+    const base::Rect area = WithoutReservation(nearest, lastReserved_, edge_);
     const base::Rect freePlace = shell_.QueryPlace(edge_, StripAt(edge_, area, thicknessPx));
     lastReserved_ = shell_.ReservePlace(edge_, StripAt(edge_, freePlace, thicknessPx));
     window_.MoveTo(*lastReserved_, ZOrder::kKeep);
@@ -172,11 +174,14 @@ void Docking::DockAgain() {
         return;
     }
     const bool typing = TypedInto();
+    // In between the bar is where it floats, which may be on another monitor.
+    cameFrom_ = window_.Place();
     docked_ = false;
     ApplyMode(ShowAtEnd::kNo);
     window_.Wait(kPauseBetweenModes);
     docked_ = true;
     ApplyMode(ShowAtEnd::kNo);
+    cameFrom_.reset();
     if (typing && ShowOnDemand()) OnTyping();
     window_.Show();
 }

@@ -53,12 +53,14 @@ public:
     void OnShellEvent(ShellEvent event, bool opening);
     void OnPlaceChanged();
     void OnActivated(bool active);
-    // The program came to the front or left it. With the front a bar that is out has got the keyboard, too.
-    void OnProgramActivated(bool active) { typing_ = active && !hidden_; }
+    // The bar was activated, and not by a dialog of its own that has closed. One that is out got the keyboard with
+    // that.
+    void OnBroughtToFront() { typing_ = typing_ || !hidden_; }
     // The user types into the bar or has just put the caret into a box: as long as the bar keeps the keyboard it stays
     // out.
     void OnTyping() { typing_ = true; }
-    // The user typed what there was to type: Esc, a start, a search. The bar may hide until there is more.
+    // The user typed what there was to type: Esc, a start, a search, another program. The bar may hide until there is
+    // more.
     void OnTypingEnded() { typing_ = false; }
     // The floating window was moved or sized.
     void OnFloatingRect(const base::Rect& place);
@@ -101,7 +103,8 @@ private:
     Edge edge_ = Edge::kTop;
     int hiddenThicknessPx_ = kHiddenThicknessPx;
     base::Rect floatingRect_;
-    base::Rect dockedRect_; // the whole bar, captured when it begins to hide
+    base::Rect dockedRect_;              // the whole bar, captured when it begins to hide
+    std::optional<base::Rect> cameFrom_; // while the bar docks again
 
     bool known_ = false; // to the shell, as far as it let itself be told
     std::optional<base::Rect> lastReserved_;

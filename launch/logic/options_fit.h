@@ -17,19 +17,13 @@ struct OptionsFit {
 
 // `window` and `page` are the full sizes, `bars` the width of a vertical and the height of a horizontal scroll bar.
 [[nodiscard]] constexpr OptionsFit FitOptions(base::Size window, base::Size page, base::Size area, base::Size bars) {
-    bool high = window.height > area.height;
-    bool wide = window.width > area.width;
-    if (!high && !wide) return {window, page, false};
+    const bool tooHigh = window.height > area.height;
+    if (!tooHigh && window.width <= area.width) return {window, page, false};
     // A bar stands beside the page, where there may be no room for it either.
-    base::Size wanted{window.width + (high ? bars.width : 0), window.height + (wide ? bars.height : 0)};
-    if (!wide && wanted.width > area.width) {
-        wide = true;
-        wanted.height += bars.height;
-    }
-    if (!high && wanted.height > area.height) {
-        high = true;
-        wanted.width += bars.width;
-    }
+    const bool horizontalBar = window.width + (tooHigh ? bars.width : 0) > area.width;
+    const bool verticalBar = tooHigh || window.height + (horizontalBar ? bars.height : 0) > area.height;
+    const base::Size wanted{window.width + (verticalBar ? bars.width : 0),
+                            window.height + (horizontalBar ? bars.height : 0)};
     const base::Size fitted{std::min(wanted.width, area.width), std::min(wanted.height, area.height)};
     return {fitted,
             {std::max(page.width + fitted.width - window.width, 0),

@@ -7,6 +7,7 @@
 #include "settings/logic/window_placement.h"
 #include "tests/support/main_frame_fixture.h"
 #include "tests/support/message_box_answer.h"
+#include "tests/support/message_count.h"
 #include "tests/support/pump.h"
 
 using namespace korvane;
@@ -98,6 +99,17 @@ TEST_F(DockedFrameTest, ComesBackToTheRectangleThatItFloatedAt) {
     EXPECT_EQ(fw::WindowRect(Bar().Handle()), floating);
 }
 
+TEST_F(DockedFrameTest, ComesBackWithinReachWhereItsMonitorIsGone) {
+    Bar();
+    ::SetWindowPos(Bar().Handle(), nullptr, -9000, -9000, 1100, 60, SWP_NOZORDER | SWP_NOACTIVATE | SWP_SHOWWINDOW);
+
+    Command(ID_DESKTOP_BAR_MODE);
+    Command(ID_DESKTOP_BAR_MODE);
+
+    const base::Rect place = fw::WindowRect(Bar().Handle());
+    EXPECT_EQ(base::Intersection(place, fw::WorkAreas().front()), place);
+}
+
 TEST_F(DockedFrameTest, SavesItsModeAndTheRectangleThatItFloatedAt) {
     settings.Write(keys::SaveWindowPlacement, 1);
     settings.Write(keys::ConfirmExitApp, 1);
@@ -132,6 +144,20 @@ TEST_F(DockedFrameTest, AMinimisedBarDocksLikeAnyOther) {
 
     EXPECT_FALSE(::IsIconic(Bar().Handle()));
     EXPECT_EQ(fw::WindowRect(Bar().Handle()).Height(), 32);
+}
+
+TEST_F(DockedFrameTest, ItsCaptionLooksActiveWhileADialogOfItIs) {
+    const fw::UniqueHandle<HWND, &::DestroyWindow> dialog{::CreateWindowExW(WS_EX_NOACTIVATE, L"STATIC", L"",
+                                                                            WS_POPUP | WS_VISIBLE, 0, 0, 10, 10,
+                                                                            Bar().Handle(), nullptr, nullptr, nullptr)};
+    const test::MessageCount painted{Bar().Handle(), WM_NCACTIVATE};
+
+    Send(WM_ACTIVATE, WA_INACTIVE, reinterpret_cast<LPARAM>(dialog.Get()));
+    EXPECT_EQ(painted.Count(), 1);
+    EXPECT_EQ(painted.LastWparam(), WPARAM{TRUE});
+
+    Send(WM_ACTIVATEAPP, FALSE);
+    EXPECT_EQ(painted.LastWparam(), WPARAM{FALSE}) << "with another program in front";
 }
 
 TEST_F(DockedFrameTest, HidesSevenControlsInItsStrip) {

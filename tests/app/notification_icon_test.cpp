@@ -20,16 +20,31 @@ protected:
                : message == NIM_DELETE ? "delete "
                : message == NIM_MODIFY ? "modify "
                                        : "? ";
+        if (busy) {
+            if (takesLate && message == NIM_ADD) held = true;
+            ::SetLastError(ERROR_TIMEOUT);
+            return FALSE;
+        }
         if (message == NIM_ADD && (held || !there)) return FALSE;
         if (message != NIM_ADD && !held) return FALSE;
         held = message != NIM_DELETE;
         return TRUE;
     }
+    // Ending a timer is how it can be asked for. One that runs is started again, and never runs out in a test.
+    [[nodiscard]] bool TimerRuns() {
+        if (!::KillTimer(Host(), kTimer)) return false;
+        ::SetTimer(Host(), kTimer, USER_TIMER_MAXIMUM, nullptr);
+        return true;
+    }
     [[nodiscard]] NotificationIcon::Shell Area() {
         return [this](DWORD message, NOTIFYICONDATAW* data) { return Tell(message, data); };
     }
 
+    static constexpr UINT_PTR kTimer = 6;
+
     bool there = true;
+    bool busy = false;
+    bool takesLate = false; // what it is told while it is busy
     bool held = false;
     std::string log;
     NOTIFYICONDATAW last{};
@@ -39,7 +54,7 @@ protected:
 } // namespace
 
 TEST_F(NotificationIconTest, IsAddedWithMessagePictureAndName) {
-    NotificationIcon icon{Area()};
+    NotificationIcon icon{kTimer, Area()};
 
     EXPECT_TRUE(icon.Add(Host(), picture.Get()));
 
@@ -54,7 +69,7 @@ TEST_F(NotificationIconTest, IsAddedWithMessagePictureAndName) {
 }
 
 TEST_F(NotificationIconTest, IsRemovedOnce) {
-    NotificationIcon icon{Area()};
+    NotificationIcon icon{kTimer, Area()};
     icon.Add(Host(), picture.Get());
 
     icon.Remove();
@@ -67,7 +82,7 @@ TEST_F(NotificationIconTest, IsRemovedOnce) {
 
 TEST_F(NotificationIconTest, GoesWithItsOwner) {
     {
-        NotificationIcon icon{Area()};
+        NotificationIcon icon{kTimer, Area()};
         icon.Add(Host(), picture.Get());
     }
 
@@ -77,7 +92,7 @@ TEST_F(NotificationIconTest, GoesWithItsOwner) {
 
 TEST_F(NotificationIconTest, TellsTheShellNothingUnlessItWasAdded) {
     {
-        NotificationIcon icon{Area()};
+        NotificationIcon icon{kTimer, Area()};
         icon.OnAreaCreated();
         icon.Remove();
     }
@@ -86,7 +101,7 @@ TEST_F(NotificationIconTest, TellsTheShellNothingUnlessItWasAdded) {
 }
 
 TEST_F(NotificationIconTest, TakesTheOldOneAwayWhenItIsAddedAgain) {
-    NotificationIcon icon{Area()};
+    NotificationIcon icon{kTimer, Area()};
     icon.Add(Host(), picture.Get());
 
     EXPECT_TRUE(icon.Add(Host(), picture.Get()));
@@ -95,7 +110,7 @@ TEST_F(NotificationIconTest, TakesTheOldOneAwayWhenItIsAddedAgain) {
 }
 
 TEST_F(NotificationIconTest, ComesBackAfterTheShellWasStartedAgain) {
-    NotificationIcon icon{Area()};
+    NotificationIcon icon{kTimer, Area()};
     icon.Add(Host(), picture.Get());
     held = false;
 
@@ -106,7 +121,7 @@ TEST_F(NotificationIconTest, ComesBackAfterTheShellWasStartedAgain) {
 }
 
 TEST_F(NotificationIconTest, IsRenewedWhereItIsStillInPlace) {
-    NotificationIcon icon{Area()};
+    NotificationIcon icon{kTimer, Area()};
     icon.Add(Host(), picture.Get());
 
     icon.OnAreaCreated();
@@ -117,7 +132,7 @@ TEST_F(NotificationIconTest, IsRenewedWhereItIsStillInPlace) {
 
 TEST_F(NotificationIconTest, AppearsWithTheNotificationAreaWhenThatComesLater) {
     there = false;
-    NotificationIcon icon{Area()};
+    NotificationIcon icon{kTimer, Area()};
     EXPECT_FALSE(icon.Add(Host(), picture.Get()));
 
     there = true;
@@ -126,8 +141,100 @@ TEST_F(NotificationIconTest, AppearsWithTheNotificationAreaWhenThatComesLater) {
     EXPECT_TRUE(held);
 }
 
+TEST_F(NotificationIconTest, IsAddedLaterWhenTheShellIsBusy) {
+    busy = true;
+    NotificationIcon icon{kTimer, Area()};
+    EXPECT_FALSE(icon.Add(Host(), picture.Get()));
+    EXPECT_TRUE(TimerRuns());
+
+    busy = false;
+    EXPECT_TRUE(icon.OnTimer(kTimer));
+
+    EXPECT_TRUE(held);
+    EXPECT_EQ(log, "add add ");
+    EXPECT_FALSE(TimerRuns()) << "once it is there";
+}
+
+TEST_F(NotificationIconTest, AsksABusyShellAgainAndAgain) {
+    busy = true;
+    NotificationIcon icon{kTimer, Area()};
+    icon.Add(Host(), picture.Get());
+
+    icon.OnTimer(kTimer);
+    EXPECT_TRUE(TimerRuns());
+
+    EXPECT_EQ(log, "add add ");
+}
+
+TEST_F(NotificationIconTest, LeavesABusyShellAloneAtLast) {
+    busy = true;
+    NotificationIcon icon{kTimer, Area()};
+    icon.Add(Host(), picture.Get());
+
+    int attempts = 1;
+    for (; TimerRuns() && attempts < 100; ++attempts) icon.OnTimer(kTimer);
+
+    EXPECT_EQ(attempts, 8);
+    EXPECT_FALSE(held);
+}
+
+TEST_F(NotificationIconTest, AsksAgainFromTheBeginningWhenTheShellHasStartedAgain) {
+    busy = true;
+    NotificationIcon icon{kTimer, Area()};
+    icon.Add(Host(), picture.Get());
+    while (TimerRuns()) icon.OnTimer(kTimer);
+
+    icon.OnAreaCreated();
+
+    EXPECT_TRUE(TimerRuns());
+}
+
+TEST_F(NotificationIconTest, FindsThatALateShellHasTakenItAllTheSame) {
+    busy = true;
+    takesLate = true;
+    NotificationIcon icon{kTimer, Area()};
+    icon.Add(Host(), picture.Get());
+
+    busy = false;
+    icon.OnTimer(kTimer);
+
+    EXPECT_EQ(log, "add add modify ");
+    EXPECT_FALSE(TimerRuns());
+}
+
+TEST_F(NotificationIconTest, NeedsNoTimerWhereTheShellTakesItAtOnceOrIsNotThere) {
+    {
+        NotificationIcon icon{kTimer, Area()};
+        icon.Add(Host(), picture.Get());
+        EXPECT_FALSE(TimerRuns());
+    }
+    there = false;
+    NotificationIcon icon{kTimer, Area()};
+    icon.Add(Host(), picture.Get());
+    EXPECT_FALSE(TimerRuns()) << "which reports itself when it comes";
+}
+
+TEST_F(NotificationIconTest, IsNotAddedAnyMoreOnceItIsRemoved) {
+    busy = true;
+    NotificationIcon icon{kTimer, Area()};
+    icon.Add(Host(), picture.Get());
+
+    icon.Remove();
+    EXPECT_FALSE(TimerRuns());
+    busy = false;
+    icon.OnTimer(kTimer);
+
+    EXPECT_EQ(log, "add delete ");
+}
+
+TEST_F(NotificationIconTest, LeavesForeignTimersAlone) {
+    NotificationIcon icon{kTimer, Area()};
+
+    EXPECT_FALSE(icon.OnTimer(kTimer + 1));
+}
+
 TEST_F(NotificationIconTest, DoesNotComeBackOnceItIsRemoved) {
-    NotificationIcon icon{Area()};
+    NotificationIcon icon{kTimer, Area()};
     icon.Add(Host(), picture.Get());
     icon.Remove();
 
@@ -137,7 +244,7 @@ TEST_F(NotificationIconTest, DoesNotComeBackOnceItIsRemoved) {
 }
 
 TEST_F(NotificationIconTest, IsTakenByTheRealShell) {
-    NotificationIcon icon;
+    NotificationIcon icon{kTimer};
 
     EXPECT_TRUE(icon.Add(Host(), picture.Get()));
     EXPECT_TRUE(icon.Add(Host(), picture.Get()));

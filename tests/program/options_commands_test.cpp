@@ -311,7 +311,7 @@ TEST_F(CommandOptions, TakeFiftyUserCommandsAndNoMore) {
     Press('A');
     WriteCommand(program, L"五十番目", L"http://fifty.example/<%Search%>");
 
-    EXPECT_TRUE(WaitForCount(options, L"選択コマンド数: 0 (ユーザー定義コマンド数: 50)"));
+    EXPECT_TRUE(WaitForCount(options, L"選択コマンド数: 1 (ユーザー定義コマンド数: 50)"));
     EXPECT_TRUE(WaitUntilEnabled(On(options, kAdd), false));
     ASSERT_TRUE(Confirm(options));
     EXPECT_THAT(UserFile(), HasSubstr(L"[SearchCommand_50]\r\nCommandName=五十番目\r\n"));

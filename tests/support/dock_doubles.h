@@ -27,6 +27,7 @@ namespace korvane::test {
 // A screen of 1280 by 800 with its reserved strips, which shell and window look at alike.
 struct DeskDouble {
     base::Rect screen{0, 0, 1280, 800};
+    std::optional<base::Rect> secondScreen; // to the right of it
     std::optional<base::Rect> taskBar = base::Rect{0, 760, 1280, 800};
     std::optional<base::Rect> otherBar; // of another program, along the upper edge
     std::optional<base::Rect> strip;    // the bar's own
@@ -36,10 +37,11 @@ struct DeskDouble {
     void Note(const std::string& what) { log += what + "; "; }
     std::string TakeLog() { return std::exchange(log, {}); }
 
-    [[nodiscard]] base::Rect WorkArea() const {
-        base::Rect area = screen;
+    [[nodiscard]] base::Rect WorkArea() const { return WorkAreaOf(screen); }
+    [[nodiscard]] base::Rect WorkAreaOf(base::Rect area) const {
+        const base::Rect whole = area;
         for (const auto& taken : {taskBar, otherBar, strip}) {
-            if (!taken || taken->Empty()) continue;
+            if (!taken || Intersection(*taken, whole).Empty()) continue;
             if (taken->top <= area.top && taken->bottom > area.top) area.top = taken->bottom;
             if (taken->bottom >= area.bottom && taken->top < area.bottom) area.bottom = taken->top;
         }
@@ -119,6 +121,7 @@ public:
     explicit WindowDouble(DeskDouble& desk) : desk_{desk} {}
 
     base::Rect place{100, 100, 1124, 160};
+    std::optional<base::Rect> reachable; // where a monitor is gone
     bool visible = false;
     bool docked = false;
     bool controlsShown = true;
@@ -133,7 +136,11 @@ public:
     std::vector<int> slideTops;
     int changes = 0;
 
-    base::Rect WorkArea() const override { return desk_.WorkArea(); }
+    base::Rect WorkAreaAt(const base::Rect& near) const override {
+        const bool onSecond = desk_.secondScreen && near.left >= desk_.secondScreen->left;
+        return desk_.WorkAreaOf(onSecond ? *desk_.secondScreen : desk_.screen);
+    }
+    base::Rect Reachable(const base::Rect& wanted) const override { return reachable.value_or(wanted); }
     base::Rect Place() const override { return place; }
     bool Visible() const override { return visible; }
     void Hide() override {

@@ -107,6 +107,59 @@ TEST_F(DockingTest, FloatsAtTheRememberedRectangle) {
     EXPECT_EQ(desk.WorkArea(), (Rect{0, 0, 1280, 760}));
 }
 
+TEST_F(DockingTest, FloatsWithinReachWhereTheMonitorIsGone) {
+    Dock();
+    window.reachable = Rect{0, 0, 1024, 60};
+
+    docking.ToggleMode();
+
+    EXPECT_EQ(window.place, (Rect{0, 0, 1024, 60}));
+}
+
+TEST_F(DockingTest, FloatsAtTheRememberedRectangleAgainWhenTheMonitorIsBack) {
+    Dock();
+    window.reachable = Rect{0, 0, 1024, 60};
+    docking.ToggleMode();
+
+    window.reachable.reset();
+    docking.ToggleMode();
+    docking.ToggleMode();
+
+    EXPECT_EQ(window.place, kFloating);
+}
+
+TEST_F(DockingTest, DocksOnTheMonitorWhereItFloats) {
+    desk.secondScreen = Rect{1280, 0, 2560, 800};
+    Begin(false);
+    window.place = {1400, 100, 2424, 160};
+
+    docking.ToggleMode();
+
+    EXPECT_EQ(window.place, (Rect{1280, 0, 2560, 32}));
+}
+
+TEST_F(DockingTest, DocksAgainOnTheMonitorWhereItWasDocked) {
+    desk.secondScreen = Rect{1280, 0, 2560, 800};
+    window.place = {1400, 100, 2424, 160};
+    Dock();
+    ASSERT_EQ(window.place, (Rect{1280, 0, 2560, 32}));
+
+    docking.DockAgain();
+
+    EXPECT_EQ(window.place, (Rect{1280, 0, 2560, 32})) << "although it floats on the first";
+}
+
+TEST_F(DockingTest, AHidingBarDocksAgainOnTheMonitorWhereItWasDocked) {
+    desk.secondScreen = Rect{1280, 0, 2560, 800};
+    window.place = {1400, 100, 2424, 160};
+    DockHidden();
+
+    docking.DockAgain();
+
+    EXPECT_EQ(window.place, (Rect{1280, 0, 2560, 1}));
+    EXPECT_EQ(desk.strip, (Rect{1280, 0, 2560, 1}));
+}
+
 TEST_F(DockingTest, FloatsOnTopWhenTheSettingSaysSo) {
     settings.Write(keys::TopMostWindow, 1);
     Begin(false);
@@ -429,7 +482,7 @@ TEST_F(DockingTest, HidesWhenWhatIsTypedGoesElsewhere) {
 TEST_F(DockingTest, ABarThatOnlyTheMouseBroughtOutGoesWithTheMouse) {
     DockHidden();
     window.hasKeyboard = true;
-    docking.OnProgramActivated(true);
+    docking.OnBroughtToFront();
     docking.OnHitTest();
     window.cursorInside = true;
     docking.OnTimer(DockTimer::kShowCheck);
@@ -446,22 +499,10 @@ TEST_F(DockingTest, ABarThatIsOutIsTypedIntoFromTheMomentItComesToTheFront) {
     docking.ShowOnDemand();
     window.hasKeyboard = true;
 
-    docking.OnProgramActivated(true);
+    docking.OnBroughtToFront();
     docking.OnTimer(DockTimer::kHideCheck);
 
     EXPECT_FALSE(docking.Hidden());
-}
-
-TEST_F(DockingTest, ABarThatLeftTheFrontIsNotTypedIntoWhenItsDialogReturnsTheKeyboard) {
-    DockHidden();
-    docking.ShowOnDemand();
-    docking.OnTyping();
-    docking.OnProgramActivated(false);
-
-    window.hasKeyboard = true;
-    docking.OnTimer(DockTimer::kHideCheck);
-
-    EXPECT_TRUE(docking.Hidden());
 }
 
 TEST_F(DockingTest, WhatWasTypedBeforeItHidDoesNotKeepItOutTheNextTime) {

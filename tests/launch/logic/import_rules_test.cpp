@@ -8,6 +8,13 @@ using testing::IsEmpty;
 
 namespace {
 
+TEST(ImportNotes, TellOfNothingFoundOnlyWhenAllIsSearched) {
+    EXPECT_EQ(NoteFor(true, false), ImportNote::kSearching);
+    EXPECT_EQ(NoteFor(true, true), ImportNote::kSearching);
+    EXPECT_EQ(NoteFor(false, true), ImportNote::kNone);
+    EXPECT_EQ(NoteFor(false, false), ImportNote::kNothingFound);
+}
+
 TEST(ImportSources, StandInTheirOrder) {
     ASSERT_EQ(kImportSources.size(), 4U);
     EXPECT_EQ(kImportSources[0].folder, ImportFolder::kPrograms);
