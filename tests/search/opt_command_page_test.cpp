@@ -579,8 +579,8 @@ TEST_F(OptCommandPage, OpensNoDialogOverTheOneThatItHasOpened) {
     Open(1, 3);
     SelectUser(1);
     int opened = 0;
-    const test::ModalDialogAnswer answer{kEditorLine, IDCANCEL, [&](HWND) {
-                                             ++opened;
+    const test::ModalDialogAnswer answer{IDCANCEL, [&](HWND) {
+                                             if (++opened > 1) return;
                                              for (const int id : {kAdd, kEdit, kDelete})
                                                  ::PostMessageW(page->Handle(), WM_COMMAND, static_cast<WPARAM>(id), 0);
                                          }};
