@@ -8,6 +8,7 @@
 #include "app/logic/floating_window.h"
 #include "framework/dpi.h"
 #include "framework/gdi.h"
+#include "framework/high_contrast.h"
 #include "framework/icons.h"
 #include "framework/late_bound.h"
 #include "framework/monitors.h"
@@ -163,7 +164,9 @@ void CMainFrame::ReadColours() {
     // Without a desktop window manager there is no such colour, and black stands for it.
     systemColour_ = base::Colour::FromArgb(fw::ColorizationColour().value_or(0));
     const base::Colour user = settings_.Read(keys::UserBarColor, systemColourAtStart_.value_or(systemColour_));
-    barColour_ = settings::BarColour(settings_.Read(keys::DefaultBarColor), systemColour_, user);
+    // In high contrast no program has a colour of its own.
+    barColour_ = fw::HighContrast() ? base::Colour{::GetSysColor(COLOR_WINDOW)}
+                                    : settings::BarColour(settings_.Read(keys::DefaultBarColor), systemColour_, user);
 }
 
 void CMainFrame::ApplyColour() {
@@ -286,6 +289,8 @@ bool CMainFrame::OnEraseBackground(HDC dc) {
     for (const base::Rect& region : {layout_.commandRegion, layout_.searchRegion}) {
         const RECT field = fw::ToWindows(region);
         ::FillRect(dc, &field, ::GetSysColorBrush(COLOR_WINDOW));
+        // The bar is of the fields' colour then.
+        if (fw::HighContrast()) ::FrameRect(dc, &field, ::GetSysColorBrush(COLOR_WINDOWTEXT));
     }
     const base::Rect& icon = layout_.commandIcon;
     if (commandIcon_)
@@ -309,6 +314,18 @@ fw::Reply CMainFrame::OnActivate(UINT how, bool) {
 void CMainFrame::OnColorizationChanged() {
     ReadColours();
     ApplyColour();
+}
+
+// WM_SYSCOLORCHANGE and WM_THEMECHANGED.
+fw::Reply CMainFrame::OnColoursChanged(const fw::Message&) {
+    OnColorizationChanged();
+    return fw::kPassOn;
+}
+
+// Windows tells of high contrast before and after it has changed the colours, as it pleases.
+fw::Reply CMainFrame::OnSettingChange(const fw::Message& message) {
+    if (message.wparam == SPI_SETHIGHCONTRAST) OnColorizationChanged();
+    return fw::kPassOn;
 }
 
 void CMainFrame::OnBoxChanged(UINT boxId) {

@@ -85,6 +85,9 @@ public:
             fw::On<WM_HOTKEY>(&CMainFrame::OnHotKey),
             fw::On<WM_HELP>(&CMainFrame::OnHelp),
             fw::On<WM_DWMCOLORIZATIONCOLORCHANGED>(&CMainFrame::OnColorizationChanged),
+            fw::On<WM_SYSCOLORCHANGE>(&CMainFrame::OnColoursChanged),
+            fw::On<WM_THEMECHANGED>(&CMainFrame::OnColoursChanged),
+            fw::On<WM_SETTINGCHANGE>(&CMainFrame::OnSettingChange),
             fw::On<WM_COMMAND>(&CMainFrame::OnControlCommand),
             fw::OnControl<ID_COMMAND_BOX, ID_SEARCH_BOX, EN_CHANGE>(&CMainFrame::OnBoxChanged),
             fw::OnCommand<ID_COMMAND_HISTORY, ID_HELP_CONTENTS>(&CMainFrame::OnCommand),
@@ -186,6 +189,8 @@ private:
     void OnHotKey(int id);
     void OnHelp(const fw::Message& message);
     void OnColorizationChanged();
+    fw::Reply OnColoursChanged(const fw::Message& message);
+    fw::Reply OnSettingChange(const fw::Message& message);
     void OnBoxChanged(UINT boxId);
     fw::Reply OnControlCommand(const fw::Message& message);
     fw::Reply OnCommand(UINT command);

@@ -77,7 +77,9 @@ void CMainFrame::AddMenuImages() {
             return entry.HasIcon() ? fw::ExtractSmallIcon(entry.iconFile, entry.iconIndex) : fw::UniqueIcon{};
         });
     for (const UINT command : {ID_LAUNCH_SETTINGS, ID_SEARCH_SETTINGS})
-        menus_.AddIcon(command, [] { return fw::LoadResourceIcon(IDI_SETTINGS, ::GetSystemMetrics(SM_CXSMICON)); });
+        menus_.AddIcon(
+            command, [] { return fw::LoadResourceIcon(IDI_SETTINGS, ::GetSystemMetrics(SM_CXSMICON)); },
+            fw::ImageKind::kDrawing);
 }
 
 fw::Reply CMainFrame::OnInitMenuPopup(const fw::Message& message) {

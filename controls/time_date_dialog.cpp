@@ -135,8 +135,8 @@ bool CTimeDateDialog::CreateChildren() {
 void CTimeDateDialog::TakeLook() {
     look_ = LookOn(host_.BarBrush());
     calendar_.SetLook(look_, host_.BarFont());
-    previousMonth_.SetArrowColour(look_.textColor);
-    nextMonth_.SetArrowColour(look_.textColor);
+    previousMonth_.SetArrowColour(look_.text.colour);
+    nextMonth_.SetArrowColour(look_.text.colour);
     Redraw();
 }
 
@@ -174,12 +174,9 @@ bool CTimeDateDialog::OnEraseBackground(HDC dc) {
 }
 
 void CTimeDateDialog::Paint(HDC dc, base::Rect client) const {
-    ::SetBkMode(dc, TRANSPARENT);
-    ::SetTextColor(dc, fw::ToWindows(look_.textColor));
     const auto draw = [&](const std::wstring& text, const fw::UniqueFont& font) {
         ::SelectObject(dc, font ? font.Get() : host_.BarFont());
-        RECT r = fw::ToWindows(client);
-        ::DrawTextW(dc, text.c_str(), -1, &r, DT_CENTER | DT_NOPREFIX);
+        DrawInked(dc, text, client, DT_CENTER | DT_NOPREFIX, look_.text);
     };
     draw(timeText_, timeFont_);
     client.top += fw::Scale()(kDateTop);
@@ -200,6 +197,11 @@ void CTimeDateDialog::OnDoubleClick(const fw::Message&) {
     TimeDateHost& host = host_;
     const ShellStart start = sources_.start;
     host.OnTimeSettingsStarted(start(L"open", L"control.exe", L"timedate.cpl", SW_SHOWNORMAL));
+}
+
+fw::Reply CTimeDateDialog::OnColoursChanged(const fw::Message&) {
+    TakeLook();
+    return fw::kPassOn;
 }
 
 void CTimeDateDialog::OnReturnToToday(const fw::Message&) {

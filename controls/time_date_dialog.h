@@ -44,6 +44,7 @@ public:
             fw::On<WM_DRAWITEM>(&CTimeDateDialog::OnDrawItem),
             fw::On<WM_ACTIVATE>(&CTimeDateDialog::OnActivate),
             fw::On<WM_LBUTTONDBLCLK>(&CTimeDateDialog::OnDoubleClick),
+            fw::On<WM_SYSCOLORCHANGE>(&CTimeDateDialog::OnColoursChanged),
             fw::On<CCalenderWindow::kReturnToToday>(&CTimeDateDialog::OnReturnToToday),
             fw::OnCommand<kPreviousMonthButton>(&CTimeDateDialog::OnStep),
             fw::OnCommand<kNextMonthButton>(&CTimeDateDialog::OnStep),
@@ -66,6 +67,7 @@ private:
     fw::Reply OnDrawItem(const fw::Message& message);
     fw::Reply OnActivate(UINT activation, bool minimised);
     void OnDoubleClick(const fw::Message& message);
+    fw::Reply OnColoursChanged(const fw::Message& message);
     void OnReturnToToday(const fw::Message& message);
     void OnStep(UINT button);
     fw::Reply OnClose();
@@ -88,8 +90,8 @@ private:
     fw::UniqueFont dateFont_;
     fw::Timer timer_;
     CCalenderWindow calendar_;
-    CUpDownButton previousMonth_{Direction::kLeft, look_.textColor};
-    CUpDownButton nextMonth_{Direction::kRight, look_.textColor};
+    CUpDownButton previousMonth_{Direction::kLeft, look_.text.colour};
+    CUpDownButton nextMonth_{Direction::kRight, look_.text.colour};
     CalendarPage page_;
     bool closing_ = false;
 };

@@ -41,6 +41,7 @@ public:
             fw::On<WM_DISPLAYCHANGE>(&COptionDialog::OnDisplayChange),
             fw::On<WM_SYSCOLORCHANGE>(&COptionDialog::OnSystemChange),
             fw::On<WM_DWMCOLORIZATIONCOLORCHANGED>(&COptionDialog::OnSystemChange),
+            fw::On<WM_SETTINGCHANGE>(&COptionDialog::OnSystemChange),
             fw::On<WM_HELP>(&COptionDialog::OnHelpKey),
             fw::OnNotify<IDC_OPTION_TREE, TVN_SELCHANGINGW>(&COptionDialog::OnPageChanging),
             fw::OnNotify<IDC_OPTION_TREE, TVN_SELCHANGEDW>(&COptionDialog::OnPageChanged),
@@ -73,6 +74,7 @@ private:
 
     bool CreatePages();
     void FillTree();
+    void ColourStrip();
     [[nodiscard]] HWND PageWindow(OptionPage page) const;
     // The page of the selected tree item; the first when none is selected.
     [[nodiscard]] OptionPage CurrentPage() const;
@@ -89,9 +91,9 @@ private:
 
     fw::UniqueImageList treeImages_;
     fw::PngImage logo_;
+    fw::PngImage plainLogo_; // without a shadow
     base::Size logoSize_;
     base::Point logoPlace_;
-    fw::UniqueBrush stripBrush_;
     int stripEnd_ = 0; // the right edge of the tree
     bool closing_ = false;
 };
