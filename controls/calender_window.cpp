@@ -87,9 +87,13 @@ void CCalenderWindow::OnLeftDoubleClick(const fw::Message& m) {
     ::SendMessageW(parent, m.id, m.wparam, MAKELPARAM(at.x, at.y));
 }
 
-void CCalenderWindow::OnRightDoubleClick(const fw::Message& m) {
+void CCalenderWindow::OnRightDoubleClick(const fw::Message&) {
+    ReturnToToday();
+}
+
+void CCalenderWindow::ReturnToToday() {
     month_.showsToday = true;
-    ::PostMessageW(::GetParent(m.window), kReturnToToday, 0, 0);
+    ::PostMessageW(::GetParent(Handle()), kReturnToToday, 0, 0);
 }
 
 } // namespace korvane::controls

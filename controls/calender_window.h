@@ -29,6 +29,9 @@ public:
     // False when the user has turned the calendar away and it is only to follow the clock: nothing changes then.
     bool Fill(CalendarPage page, const ClockReading& today, Filling filling);
 
+    // The current month again, however far the user has turned away from it. Comes with the next message.
+    void ReturnToToday();
+
     [[nodiscard]] const CalendarMonth& Month() const { return month_; }
 
 private:
