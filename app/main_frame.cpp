@@ -83,6 +83,7 @@ int CMainFrame::OnCreate(const CREATESTRUCTW&) {
     BeginDocking();
     ApplySettings();
     filter_ = loop_.Add(*this);
+    toolTips_.Watch(loop_, Handle());
     created_ = true;
     return 0;
 }
@@ -307,6 +308,8 @@ fw::Reply CMainFrame::OnActivate(UINT how, bool) {
     const HWND focus = ::GetFocus();
     const bool inBox = focus == controls_.commandBox.Handle() || focus == controls_.searchBox.Handle();
     if (how == WA_INACTIVE && inBox) lastFocus_ = focus;
+    // Whatever opens takes the activation.
+    if (how == WA_INACTIVE) toolTips_.Begin();
     docking_.OnActivated(how != WA_INACTIVE);
     return fw::kPassOn;
 }

@@ -22,6 +22,7 @@
 #include "controls/bar_host.h"
 #include "controls/option_page.h"
 #include "controls/time_date_host.h"
+#include "controls/tool_tip_rest.h"
 #include "framework/centred_message_box.h"
 #include "framework/handle.h"
 #include "framework/hot_key.h"
@@ -261,6 +262,7 @@ private:
     about::HelpSession& help_;
     FramePlaces places_;
     fw::MessageLoop::Registration filter_;
+    controls::ToolTipRest toolTips_;
     fw::UniqueHandle<HACCEL, &::DestroyAcceleratorTable> accelerators_;
     std::wstring versionText_;
     launch::CAppMenuBar menus_;

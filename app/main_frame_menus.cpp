@@ -33,6 +33,7 @@ UINT CMainFrame::TrackPopup(int position, UINT flags, POINT at) {
 
 UINT CMainFrame::Track(HMENU menu, UINT flags, POINT at) {
     const fw::ScopedFlag busy{inputBusy_};
+    toolTips_.Begin();
     return static_cast<UINT>(::TrackPopupMenuEx(menu, flags, at.x, at.y, Handle(), nullptr));
 }
 
