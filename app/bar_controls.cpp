@@ -3,6 +3,7 @@
 #include "controls/logic/bar_colour.h"
 #include "framework/dpi.h"
 #include "framework/gdi.h"
+#include "framework/high_contrast.h"
 #include "framework/icons.h"
 #include "framework/string_table.h"
 #include "framework/windows_program.h"
@@ -44,8 +45,9 @@ bool BarControls::Create(HWND frame, HFONT barFont, const BarLayout& at) {
     const int size = IconSizePx();
     toolImages_ = fw::MakeImageList({IDI_RUN, IDI_SEARCH}, size);
     disabledToolImages_ = fw::MakeImageList({IDI_RUN_DISABLED, IDI_SEARCH_DISABLED}, size);
-    runTyped.SetImageListIndex(toolImages_.Get(), disabledToolImages_.Get(), kRunImage);
-    runSearch.SetImageListIndex(toolImages_.Get(), disabledToolImages_.Get(), kSearchImage);
+    constexpr auto kDrawing = fw::ImageKind::kDrawing;
+    runTyped.SetImageListIndex(toolImages_.Get(), disabledToolImages_.Get(), kRunImage, kDrawing);
+    runSearch.SetImageListIndex(toolImages_.Get(), disabledToolImages_.Get(), kSearchImage, kDrawing);
     controlPanel.SetIcon(fw::ExtractSmallIcon(fw::WindowsProgram(kControlPanelProgram), 0));
 
     constexpr DWORD kDisabledStyle = kChildStyle | WS_DISABLED;
@@ -69,6 +71,8 @@ bool BarControls::Create(HWND frame, HFONT barFont, const BarLayout& at) {
 
     GiveFont(searchChooser.Handle(), barFont);
     GiveFont(controlPanel.Handle(), barFont);
+    // No click gives a button the keyboard; where it is, the user went by key.
+    ForEachButton([](auto& button) { button.SetFocusShown(true); });
     return true;
 }
 
@@ -140,9 +144,11 @@ void BarControls::SetColour(base::Colour barColour) {
     mainMenu.SetBarColour(barColour);
     controlPanel.SetBarColour(barColour);
     clock.SetBarColour(barColour);
-    const bool light = controls::IsLightBar(barColour);
-    options.SetIcon(fw::LoadResourceIcon(light ? IDI_OPTIONS_ON_LIGHT : IDI_OPTIONS_ON_DARK, IconSizePx()));
-    help.SetIcon(fw::LoadResourceIcon(light ? IDI_HELP_ON_LIGHT : IDI_HELP_ON_DARK, IconSizePx()));
+    // Those for dark bars have a shadow, which no colour of the system can stand for.
+    const bool light = controls::IsLightBar(barColour) || fw::HighContrast();
+    constexpr auto kDrawing = fw::ImageKind::kDrawing;
+    options.SetIcon(fw::LoadResourceIcon(light ? IDI_OPTIONS_ON_LIGHT : IDI_OPTIONS_ON_DARK, IconSizePx()), kDrawing);
+    help.SetIcon(fw::LoadResourceIcon(light ? IDI_HELP_ON_LIGHT : IDI_HELP_ON_DARK, IconSizePx()), kDrawing);
 }
 
 void BarControls::ReloadLaunchButtons(const settings::ProfileStore& settings) {

@@ -39,6 +39,23 @@ public:
     // Reads the three launch buttons' entries again and shows their names and icons.
     void ReloadLaunchButtons(const settings::ProfileStore& settings);
 
+    // Does the same to every button, in the order in which the eye meets them.
+    template <class Action>
+    void ForEachButton(const Action& action) {
+        action(mainMenu);
+        action(commandHistory);
+        action(runTyped);
+        action(searchChooser);
+        action(searchHistory);
+        action(runSearch);
+        action(controlPanel);
+        for (controls::CToolButton& button : launchButtons) action(button);
+        action(options);
+        action(help);
+        action(clock);
+        action(exit);
+    }
+
     controls::CKorvaneButton mainMenu;
     search::CEditEx commandBox;
     search::CEditEx searchBox;

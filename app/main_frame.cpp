@@ -8,6 +8,7 @@
 #include "app/logic/floating_window.h"
 #include "framework/dpi.h"
 #include "framework/gdi.h"
+#include "framework/high_contrast.h"
 #include "framework/icons.h"
 #include "framework/late_bound.h"
 #include "framework/scoped_flag.h"
@@ -78,6 +79,7 @@ int CMainFrame::OnCreate(const CREATESTRUCTW&) {
     BeginDocking();
     ApplySettings();
     filter_ = loop_.Add(*this);
+    toolTips_.Watch(loop_, Handle());
     created_ = true;
     return 0;
 }
@@ -154,7 +156,9 @@ void CMainFrame::ReadColours() {
     // Without a desktop window manager there is no such colour, and black stands for it.
     systemColour_ = base::Colour::FromArgb(fw::ColorizationColour().value_or(0));
     const base::Colour user = settings_.Read(keys::UserBarColor, systemColourAtStart_.value_or(systemColour_));
-    barColour_ = settings::BarColour(settings_.Read(keys::DefaultBarColor), systemColour_, user);
+    // In high contrast no program has a colour of its own.
+    barColour_ = fw::HighContrast() ? base::Colour{::GetSysColor(COLOR_WINDOW)}
+                                    : settings::BarColour(settings_.Read(keys::DefaultBarColor), systemColour_, user);
 }
 
 void CMainFrame::ApplyColour() {
@@ -282,6 +286,8 @@ bool CMainFrame::OnEraseBackground(HDC dc) {
     for (const base::Rect& region : {layout_.commandRegion, layout_.searchRegion}) {
         const RECT field = fw::ToWindows(region);
         ::FillRect(dc, &field, ::GetSysColorBrush(COLOR_WINDOW));
+        // The bar is of the fields' colour then.
+        if (fw::HighContrast()) ::FrameRect(dc, &field, ::GetSysColorBrush(COLOR_WINDOWTEXT));
     }
     const base::Rect& icon = layout_.commandIcon;
     if (commandIcon_)
@@ -295,6 +301,8 @@ void CMainFrame::OnSetFocus(const fw::Message&) {
 
 fw::Reply CMainFrame::OnActivate(const fw::Message& message) {
     const UINT how = LOWORD(message.wparam);
+    // Whatever opens takes the activation.
+    if (how == WA_INACTIVE) toolTips_.Begin();
     docking_.OnActivated(how != WA_INACTIVE);
     const auto other = reinterpret_cast<HWND>(message.lparam);
     if (how != WA_INACTIVE && !BelongsTo(Handle(), other)) docking_.OnBroughtToFront();
@@ -320,6 +328,18 @@ void CMainFrame::OnBoxFocused(UINT boxId) {
 void CMainFrame::OnColorizationChanged() {
     ReadColours();
     ApplyColour();
+}
+
+// WM_SYSCOLORCHANGE and WM_THEMECHANGED.
+fw::Reply CMainFrame::OnColoursChanged(const fw::Message&) {
+    OnColorizationChanged();
+    return fw::kPassOn;
+}
+
+// Windows tells of high contrast before and after it has changed the colours, as it pleases.
+fw::Reply CMainFrame::OnSettingChange(const fw::Message& message) {
+    if (message.wparam == SPI_SETHIGHCONTRAST) OnColorizationChanged();
+    return fw::kPassOn;
 }
 
 void CMainFrame::OnBoxChanged(UINT boxId) {

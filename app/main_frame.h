@@ -19,15 +19,16 @@
 #include "app/logic/command_routes.h"
 #include "app/logic/docked_window.h"
 #include "app/logic/docking.h"
-#include "app/logic/wheel_steps.h"
 #include "app/notification_icon.h"
 #include "app/task_list.h"
 #include "app/win_shell.h"
 #include "base/colour.h"
 #include "base/geometry.h"
 #include "controls/bar_host.h"
+#include "controls/logic/wheel_steps.h"
 #include "controls/option_page.h"
 #include "controls/time_date_host.h"
+#include "controls/tool_tip_rest.h"
 #include "framework/centred_message_box.h"
 #include "framework/handle.h"
 #include "framework/hot_key.h"
@@ -93,6 +94,9 @@ public:
             fw::On<WM_HOTKEY>(&CMainFrame::OnHotKey),
             fw::On<WM_HELP>(&CMainFrame::OnHelp),
             fw::On<WM_DWMCOLORIZATIONCOLORCHANGED>(&CMainFrame::OnColorizationChanged),
+            fw::On<WM_SYSCOLORCHANGE>(&CMainFrame::OnColoursChanged),
+            fw::On<WM_THEMECHANGED>(&CMainFrame::OnColoursChanged),
+            fw::On<WM_SETTINGCHANGE>(&CMainFrame::OnSettingChange),
             fw::On<WM_COMMAND>(&CMainFrame::OnControlCommand),
             fw::OnControl<ID_COMMAND_BOX, ID_SEARCH_BOX, EN_CHANGE>(&CMainFrame::OnBoxChanged),
             fw::OnControl<ID_COMMAND_BOX, ID_SEARCH_BOX, EN_SETFOCUS>(&CMainFrame::OnBoxFocused),
@@ -204,6 +208,8 @@ private:
     void OnHotKey(int id);
     void OnHelp(const fw::Message& message);
     void OnColorizationChanged();
+    fw::Reply OnColoursChanged(const fw::Message& message);
+    fw::Reply OnSettingChange(const fw::Message& message);
     void OnBoxChanged(UINT boxId);
     void OnBoxFocused(UINT boxId);
     fw::Reply OnControlCommand(const fw::Message& message);
@@ -290,6 +296,7 @@ private:
     about::HelpSession& help_;
     FramePlaces places_;
     fw::MessageLoop::Registration filter_;
+    controls::ToolTipRest toolTips_;
     fw::UniqueHandle<HACCEL, &::DestroyAcceleratorTable> accelerators_;
     std::wstring versionText_;
     launch::CAppMenuBar menus_;
@@ -317,7 +324,7 @@ private:
     std::optional<base::Colour> systemColourAtStart_;
 
     search::SearchCommandId currentSearch_;
-    WheelSteps wheel_;
+    controls::WheelSteps wheel_;
     search::WinProcessStarter starter_;
     search::SearchTextEncoder encoder_;
 

@@ -2,10 +2,10 @@
 #include <windowsx.h>
 
 #include "app/built_in_programs.h"
+#include "app/logic/command_after_wheel.h"
 #include "app/logic/menu_states.h"
 #include "app/logic/menu_texts.h"
 #include "app/logic/notification_icon_rules.h"
-#include "app/logic/wheel_steps.h"
 #include "app/main_frame.h"
 #include "app/screen_saver.h"
 #include "framework/gdi.h"
@@ -52,6 +52,7 @@ UINT CMainFrame::Track(HMENU menu, UINT flags, POINT at) {
     UINT command = 0;
     {
         const fw::ScopedFlag busy{inputBusy_};
+        toolTips_.Begin();
         command = static_cast<UINT>(::TrackPopupMenuEx(menu, flags, at.x, at.y, Handle(), nullptr));
     }
     // Before the command: what that opens takes the keyboard from a box, and gives it back there.
@@ -177,7 +178,9 @@ void CMainFrame::AddMenuImages() {
         menus_.AddIcon(command,
                        [command, this] { return launch::IconOf(launch::LoadCommandEntry(command, settings_)); });
     for (const UINT command : {ID_LAUNCH_SETTINGS, ID_SEARCH_SETTINGS})
-        menus_.AddIcon(command, [] { return fw::LoadResourceIcon(IDI_SETTINGS, ::GetSystemMetrics(SM_CXSMICON)); });
+        menus_.AddIcon(
+            command, [] { return fw::LoadResourceIcon(IDI_SETTINGS, ::GetSystemMetrics(SM_CXSMICON)); },
+            fw::ImageKind::kDrawing);
 }
 
 fw::Reply CMainFrame::OnInitMenuPopup(const fw::Message& message) {

@@ -1,5 +1,6 @@
 #include "controls/app_image_btn.h"
 
+#include "framework/pixel_bitmap.h"
 #include "framework/placeholder.h"
 
 namespace korvane::controls {
@@ -26,17 +27,10 @@ bool CAppImageBtn::Replace(HWND dialog, int id) {
     return fw::TakePlace(*this, dialog, id, {.without = BS_TYPEMASK});
 }
 
-// The dialog manager does not know an owner-drawn button for a push button, and would take Enter on it for the default
-// button's. Said to be one, it would be given the style of one in the place of the owner-draw style.
-LRESULT CAppImageBtn::OnDialogCode(const fw::Message& message) {
-    const auto* const key = reinterpret_cast<const MSG*>(message.lparam);
-    const bool enter = key && key->message == WM_KEYDOWN && key->wParam == VK_RETURN;
-    return DLGC_BUTTON | (enter ? DLGC_WANTMESSAGE : 0);
-}
-
 void CAppImageBtn::Paint(HDC dc, const base::Rect& area, const ButtonFacts& facts) {
     const ButtonState state = StateOf(facts);
-    const bool themed = static_cast<bool>(CurrentTheme());
+    // The classic plate is in the system's colours.
+    const bool themed = CurrentTheme() && !highContrast_;
     if (themed) {
         PaintGround(dc, area, state);
     } else {
@@ -55,6 +49,12 @@ void CAppImageBtn::PaintImage(HDC dc, const base::Rect& area, ButtonState state)
     base::Size size;
     ::ImageList_GetIconSize(images_, &size.width, &size.height);
     const base::Rect at = Pushed(base::Centred(area, size), state, fw::Scale());
+    if (highContrast_) {
+        const int colour = state == ButtonState::kDisabled ? COLOR_GRAYTEXT : COLOR_BTNTEXT;
+        return fw::DrawSilhouette(dc, at, ::GetSysColor(colour), [this](HDC one) {
+            return ::ImageList_Draw(images_, 0, one, 0, 0, ILD_TRANSPARENT) != FALSE;
+        });
+    }
     const int index = state == ButtonState::kDisabled && ::ImageList_GetImageCount(images_) > 1 ? 1 : 0;
     ::ImageList_Draw(images_, index, dc, at.left, at.top, ILD_TRANSPARENT);
 }

@@ -13,12 +13,7 @@ class CAppImageBtn final : public BarButton<CAppImageBtn> {
 public:
     static constexpr fw::WindowClass kClass{.name = L"AppImageBtn_WndClass", .base = L"BUTTON"};
 
-    static constexpr auto Messages() {
-        return fw::MessageMap{
-            fw::On<WM_GETDLGCODE>(&CAppImageBtn::OnDialogCode),
-            fw::Chain<BarButton<CAppImageBtn>>(),
-        };
-    }
+    static constexpr bool kTakesFocusByMouse = true;
 
     // Borrowed: image 0 is shown normally and image 1 while disabled.
     void SetImages(HIMAGELIST images);
@@ -33,7 +28,6 @@ public:
     [[nodiscard]] const wchar_t* ThemeClasses() const { return kDialogButtonTheme; }
 
 private:
-    LRESULT OnDialogCode(const fw::Message& message);
     void PaintImage(HDC dc, const base::Rect& area, ButtonState state) const;
 
     HIMAGELIST images_ = nullptr;

@@ -4,17 +4,22 @@
 
 #include <commctrl.h>
 
+#include <utility>
+
 #include "base/geometry.h"
 #include "controls/bar_painting.h"
 #include "controls/logic/button_state.h"
 #include "framework/gdi.h"
+#include "framework/high_contrast.h"
 #include "framework/message_map.h"
+#include "framework/scoped_flag.h"
 
 namespace korvane::controls {
 
 // Mix-in of an owner-drawn button T over the system's BUTTON: it paints when the parent reflects the draw message, and
 // follows the mouse. T paints itself with `void Paint(HDC dc, const base::Rect& area, const ButtonFacts& facts)`; the
-// device context comes back as it was, whatever T selects into it.
+// device context comes back as it was, whatever T selects into it. A press of the mouse leaves the keyboard where it is
+// unless T has `kTakesFocusByMouse`.
 template <class T>
 class CAppODBHelper {
 public:
@@ -26,6 +31,9 @@ public:
             fw::On<WM_MOUSELEAVE>(&CAppODBHelper::OnMouseLeave),
             fw::On<WM_LBUTTONDOWN>(&CAppODBHelper::OnPress),
             fw::On<WM_LBUTTONDBLCLK>(&CAppODBHelper::OnDoubleClick),
+            fw::On<WM_SETFOCUS>(&CAppODBHelper::OnSetFocus),
+            fw::On<WM_KILLFOCUS>(&CAppODBHelper::OnKillFocus),
+            fw::On<WM_GETDLGCODE>(&CAppODBHelper::OnDialogCode),
             fw::On<WM_KEYDOWN>(&CAppODBHelper::OnKeyDown),
             fw::On<WM_ENABLE>(&CAppODBHelper::OnEnable),
         };
@@ -33,6 +41,11 @@ public:
 
     [[nodiscard]] bool Hot() const { return hot_; }
     [[nodiscard]] bool MenuShown() const { return menuShown_; }
+
+    // Whether the button tells that it has the keyboard focus. At first it does not: mouse users need no such thing.
+    void SetFocusShown(bool shown) {
+        if (std::exchange(focusShown_, shown) != shown && Self().Handle()) Self().Redraw();
+    }
 
 protected:
     // The owner-draw style cannot be among those of creation: the BUTTON procedure goes by the ones it saw then.
@@ -44,6 +57,8 @@ protected:
     bool hot_ = false;
     // The button's menu is open or about to open.
     bool menuShown_ = false;
+    // As it is for the painting that is going on.
+    bool highContrast_ = false;
 
 private:
     T& Self() { return static_cast<T&>(*this); }
@@ -52,14 +67,19 @@ private:
         const base::Rect area = fw::FromWindows(item.rcItem);
         if (area.Empty()) return true;
         const PaintBuffer buffer{item.hDC, area};
-        const fw::SavedDc saved{buffer.Dc()};
         const auto in = [&](UINT state) { return (item.itemState & state) != 0; };
-        Self().Paint(buffer.Dc(), area,
-                     {.pressed = in(ODS_SELECTED),
-                      .menuShown = menuShown_,
-                      .disabled = in(ODS_DISABLED),
-                      .hot = hot_,
-                      .focused = in(ODS_FOCUS)});
+        const ButtonFacts facts{.pressed = in(ODS_SELECTED),
+                                .menuShown = menuShown_,
+                                .disabled = in(ODS_DISABLED),
+                                .hot = hot_,
+                                .focused = in(ODS_FOCUS),
+                                .focusShown = focusShown_};
+        highContrast_ = fw::HighContrast();
+        {
+            const fw::SavedDc saved{buffer.Dc()};
+            Self().Paint(buffer.Dc(), area, facts);
+        }
+        if (facts.ShowsFocus()) PaintFocusFrame(buffer.Dc(), area, highContrast_);
         return true;
     }
 
@@ -88,9 +108,31 @@ private:
         Self().Redraw();
     }
 
-    fw::Reply OnPress(const fw::Message&) {
+    LRESULT OnPress(const fw::Message& m) {
         hot_ = false;
-        return fw::kPassOn;
+        const fw::ScopedFlag pressing{pressing_};
+        return Self().Default(m);
+    }
+
+    // The button procedure takes the keyboard at a press. It goes back at once, and the procedure hears nothing of
+    // that: it would take the loss of the focus for the end of the press.
+    fw::Reply OnSetFocus(const fw::Message& m) {
+        if (T::kTakesFocusByMouse || !pressing_) return fw::kPassOn;
+        const auto before = reinterpret_cast<HWND>(m.wparam);
+        ::SetFocus(before ? before : ::GetParent(m.window));
+        return LRESULT{0};
+    }
+    fw::Reply OnKillFocus(const fw::Message&) {
+        if (T::kTakesFocusByMouse || !pressing_) return fw::kPassOn;
+        return LRESULT{0};
+    }
+
+    // The dialog manager does not know an owner-drawn button for a push button, and would take Enter on it for the
+    // default button's. Said to be one, it would be given the style of one in the place of the owner-draw style.
+    LRESULT OnDialogCode(const fw::Message& m) {
+        const auto* const key = reinterpret_cast<const MSG*>(m.lparam);
+        const bool enter = key && key->message == WM_KEYDOWN && key->wParam == VK_RETURN;
+        return DLGC_BUTTON | (enter ? DLGC_WANTMESSAGE : 0);
     }
 
     // To an owner-drawn button the second press of a quick pair is a double click, which is not a click; here every
@@ -109,6 +151,10 @@ private:
         if (m.wparam == FALSE) hot_ = false;
         return fw::kPassOn;
     }
+
+    bool focusShown_ = false;
+    // A press of the mouse is being handed to the button procedure.
+    bool pressing_ = false;
 };
 
 } // namespace korvane::controls

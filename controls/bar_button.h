@@ -28,11 +28,28 @@ public:
 
     void OnCreated() {}
 
+    // A button of a dialog takes the keyboard as the system's do; what is typed after a click on the bar belongs where
+    // the user was.
+    static constexpr bool kTakesFocusByMouse = false;
+
+    // What a click does, without the mouse.
+    void Press() const { ::SendMessageW(this->Handle(), BM_CLICK, 0, 0); }
+
 protected:
     // What is behind the button, then its plate.
     void PaintGround(HDC dc, const base::Rect& area, ButtonState state, int part = kPlatePart) const {
         PaintBehind(this->Handle(), dc, area);
-        PaintPlate(dc, this->CurrentTheme(), part, state, area);
+        if (this->highContrast_) {
+            PaintHighContrastPlate(dc, state, area);
+        } else {
+            PaintPlate(dc, this->CurrentTheme(), part, state, area);
+        }
+    }
+
+    // What text and arrows on that ground are drawn with. To be asked before anything else is painted on it.
+    [[nodiscard]] Ink InkOn(HDC dc, const base::Rect& area, ButtonState state, BarTextColour usual) const {
+        if (this->highContrast_) return {SystemColour(TextColourInHighContrast(state)), {}};
+        return BarInk(dc, area, usual);
     }
 
 private:

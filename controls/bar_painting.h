@@ -2,7 +2,9 @@
 
 #include <windows.h>
 
+#include <optional>
 #include <span>
+#include <string>
 
 #include "base/colour.h"
 #include "base/geometry.h"
@@ -43,12 +45,33 @@ void PaintBehindUnthemed(HWND button, HDC dc, const base::Rect& area);
 // hover and press are seen on every bar.
 void PaintPlate(HDC dc, const fw::Theme& theme, int part, ButtonState state, const base::Rect& area);
 
+// In high contrast: nothing, or the system's highlight under the mouse, the keyboard and a press.
+void PaintHighContrastPlate(HDC dc, ButtonState state, const base::Rect& area);
+// Around what the keyboard is on; to be seen on every ground.
+void PaintFocusFrame(HDC dc, const base::Rect& area, bool highContrast);
+
 void FillFigure(HDC dc, std::span<const base::Rect> figure, HBRUSH brush);
+void FillFigure(HDC dc, std::span<const base::Rect> figure, base::Colour colour);
 
 // The colour of the ground on which content will stand: what is painted in the middle of the area.
 [[nodiscard]] base::Colour GroundColour(HDC dc, const base::Rect& area);
 
-// The index of GetSysColor and GetSysColorBrush behind a text colour.
-[[nodiscard]] int SystemColourIndex(BarTextColour colour);
+// The system's colour behind a text colour.
+[[nodiscard]] base::Colour SystemColour(BarTextColour colour);
+
+// A colour to draw with and, where it would hardly be told from the ground, another around it, as a shadow lies under
+// the picture of the main menu.
+struct Ink {
+    base::Colour colour;
+    std::optional<base::Colour> outline;
+};
+
+// The ink of what stands on the bar in the colour that goes with it. The system default is for fields of the system's
+// own colour and needs nothing around it.
+[[nodiscard]] Ink BarInk(HDC dc, const base::Rect& area, BarTextColour colour);
+
+// As DrawTextW, in the device context's font. The background stays.
+void DrawInked(HDC dc, const std::wstring& text, const base::Rect& area, UINT format, const Ink& ink);
+void FillInked(HDC dc, std::span<const base::Rect> figure, const Ink& ink);
 
 } // namespace korvane::controls

@@ -1,5 +1,6 @@
 #include "controls/calender_window.h"
 
+#include <array>
 #include <string>
 #include <string_view>
 
@@ -15,10 +16,8 @@ namespace {
 constexpr int kHairline = 1;
 
 // Fonts may be a little higher than their line; nothing of a character is cut off for that.
-void DrawCentred(HDC dc, std::wstring_view text, const base::Rect& area) {
-    RECT r = fw::ToWindows(area);
-    ::DrawTextW(dc, text.data(), static_cast<int>(text.size()), &r,
-                DT_CENTER | DT_VCENTER | DT_SINGLELINE | DT_NOPREFIX | DT_NOCLIP);
+void DrawCentred(HDC dc, std::wstring_view text, const base::Rect& area, const Ink& ink) {
+    DrawInked(dc, std::wstring{text}, area, DT_CENTER | DT_VCENTER | DT_SINGLELINE | DT_NOPREFIX | DT_NOCLIP, ink);
 }
 
 } // namespace
@@ -26,9 +25,6 @@ void DrawCentred(HDC dc, std::wstring_view text, const base::Rect& area) {
 void CCalenderWindow::SetLook(const PopUpLook& look, HFONT font) {
     look_ = look;
     font_ = font;
-    dimColor_ = Between(look.groundColor, look.textColor);
-    dimBrush_.Reset(::CreateSolidBrush(fw::ToWindows(dimColor_)));
-    dimPen_.Reset(::CreatePen(PS_SOLID, fw::Scale()(kHairline), fw::ToWindows(dimColor_)));
     if (Handle()) Redraw();
 }
 
@@ -54,15 +50,13 @@ bool CCalenderWindow::OnEraseBackground(HDC dc) {
 
 void CCalenderWindow::Paint(HDC dc) const {
     const base::DpiScale& scale = fw::Scale();
-    ::SelectObject(dc, dimPen_.Get());
-    ::MoveToEx(dc, 0, scale(kRuleTop), nullptr);
-    ::LineTo(dc, CalendarSize(scale).width, scale(kRuleTop));
+    const base::Rect rule = base::Rect::At({0, scale(kRuleTop)}, {CalendarSize(scale).width, scale(kHairline)});
+    FillInked(dc, {&rule, 1}, look_.dim);
 
     ::SelectObject(dc, font_);
-    ::SetBkMode(dc, TRANSPARENT);
-    ::SetTextColor(dc, fw::ToWindows(look_.textColor));
-    for (unsigned day = 0; day < kDaysInWeek; ++day) DrawCentred(dc, DayOfWeekName(day), WeekdayRect(day, scale));
-    DrawCentred(dc, month_.title, TitleRect(scale));
+    for (unsigned day = 0; day < kDaysInWeek; ++day)
+        DrawCentred(dc, DayOfWeekName(day), WeekdayRect(day, scale), look_.text);
+    DrawCentred(dc, month_.title, TitleRect(scale), look_.text);
     for (std::size_t i = 0; i < month_.cells.size(); ++i) PaintCell(dc, i);
 }
 
@@ -70,12 +64,19 @@ void CCalenderWindow::PaintCell(HDC dc, std::size_t index) const {
     const DayCell& cell = month_.cells[index];
     if (cell.day == 0) return; // never filled
     const base::Rect area = CellRect(index, fw::Scale());
-    for (int ring = 0; cell.isToday && ring < fw::Scale()(kHairline); ++ring) {
-        const RECT frame = fw::ToWindows(area.Inset(ring));
-        ::FrameRect(dc, &frame, dimBrush_.Get());
-    }
-    ::SetTextColor(dc, fw::ToWindows(cell.isOtherMonth ? dimColor_ : look_.textColor));
-    DrawCentred(dc, std::to_wstring(cell.day), area);
+    if (cell.isToday) PaintTodaysFrame(dc, area);
+    DrawCentred(dc, std::to_wstring(cell.day), area, cell.isOtherMonth ? look_.dim : look_.text);
+}
+
+void CCalenderWindow::PaintTodaysFrame(HDC dc, const base::Rect& cell) const {
+    const int line = fw::Scale()(kHairline);
+    const std::array edges{
+        base::Rect{cell.left, cell.top, cell.right, cell.top + line},
+        base::Rect{cell.left, cell.bottom - line, cell.right, cell.bottom},
+        base::Rect{cell.left, cell.top, cell.left + line, cell.bottom},
+        base::Rect{cell.right - line, cell.top, cell.right, cell.bottom},
+    };
+    FillInked(dc, edges, look_.dim);
 }
 
 // What a double click opens is the pop-up's, here as everywhere on it. The pop-up may be gone afterwards.
@@ -86,9 +87,13 @@ void CCalenderWindow::OnLeftDoubleClick(const fw::Message& m) {
     ::SendMessageW(parent, m.id, m.wparam, MAKELPARAM(at.x, at.y));
 }
 
-void CCalenderWindow::OnRightDoubleClick(const fw::Message& m) {
+void CCalenderWindow::OnRightDoubleClick(const fw::Message&) {
+    ReturnToToday();
+}
+
+void CCalenderWindow::ReturnToToday() {
     month_.showsToday = true;
-    ::PostMessageW(::GetParent(m.window), kReturnToToday, 0, 0);
+    ::PostMessageW(::GetParent(Handle()), kReturnToToday, 0, 0);
 }
 
 } // namespace korvane::controls

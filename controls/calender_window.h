@@ -2,7 +2,6 @@
 
 #include "controls/logic/calendar_month.h"
 #include "controls/pop_up_look.h"
-#include "framework/handle.h"
 #include "framework/window.h"
 
 namespace korvane::controls {
@@ -30,6 +29,9 @@ public:
     // False when the user has turned the calendar away and it is only to follow the clock: nothing changes then.
     bool Fill(CalendarPage page, const ClockReading& today, Filling filling);
 
+    // The current month again, however far the user has turned away from it. Comes with the next message.
+    void ReturnToToday();
+
     [[nodiscard]] const CalendarMonth& Month() const { return month_; }
 
 private:
@@ -39,13 +41,10 @@ private:
 
     void Paint(HDC dc) const;
     void PaintCell(HDC dc, std::size_t index) const;
+    void PaintTodaysFrame(HDC dc, const base::Rect& cell) const;
 
     PopUpLook look_;
     HFONT font_ = nullptr;
-    // Of the line over the days, today's frame and the days of other months.
-    base::Colour dimColor_;
-    fw::UniqueBrush dimBrush_;
-    fw::UniquePen dimPen_;
     CalendarMonth month_;
 };
 

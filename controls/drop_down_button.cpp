@@ -11,8 +11,9 @@ void CDropDownButton::OpenMenu() {
 void CDropDownButton::Paint(HDC dc, const base::Rect& area, const ButtonFacts& facts) {
     const ButtonState state = StateOf(facts);
     PaintGround(dc, area, state);
+    const Ink ink = InkOn(dc, area, state, BarTextColour::kButtonText);
     const base::Rect box = base::Centred(area, DownArrowSize(fw::Scale()));
-    FillFigure(dc, DownArrow(Pushed(box, state, fw::Scale())), ::GetSysColorBrush(COLOR_BTNTEXT));
+    FillInked(dc, DownArrow(Pushed(box, state, fw::Scale())), ink);
 }
 
 } // namespace korvane::controls

@@ -14,7 +14,7 @@ public:
     [[nodiscard]] const wchar_t* ThemeClasses() const { return kExitButtonTheme; }
 
 private:
-    static void PaintCross(HDC dc, const base::Rect& area, ButtonState state);
+    void PaintCross(HDC dc, const base::Rect& area, ButtonState state) const;
 };
 
 } // namespace korvane::controls

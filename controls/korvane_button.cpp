@@ -1,5 +1,6 @@
 #include "controls/korvane_button.h"
 
+#include "framework/pixel_bitmap.h"
 #include "res/ids.h"
 
 namespace korvane::controls {
@@ -40,9 +41,15 @@ fw::Reply CKorvaneButton::OnClicked(const fw::Message& m) {
 void CKorvaneButton::Paint(HDC dc, const base::Rect& area, const ButtonFacts& facts) {
     const ButtonState state = StateOf(facts);
     PaintGround(dc, area, state);
-    const fw::PngImage& image = IsLightBar(bar_) ? onLight_ : onDark_;
+    // The picture for light bars has no shadow, so it is also the one to be had in a colour of the system.
+    const fw::PngImage& image = IsLightBar(bar_) || highContrast_ ? onLight_ : onDark_;
     const base::Size size = DrawnSize(image.Extent(), pictures_.artDpi, fw::Scale().Dpi());
-    image.Draw(dc, Pushed(base::Centred(area, size), state, fw::Scale()));
+    const base::Rect at = Pushed(base::Centred(area, size), state, fw::Scale());
+    if (!highContrast_) return image.Draw(dc, at);
+    fw::DrawSilhouette(dc, at, fw::ToWindows(SystemColour(TextColourInHighContrast(state))), [&](HDC one) {
+        image.Draw(one, base::Rect::At({0, 0}, size));
+        return true;
+    });
 }
 
 const wchar_t* CKorvaneButton::ThemeClasses() const {

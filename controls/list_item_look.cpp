@@ -3,6 +3,7 @@
 #include "base/colour.h"
 #include "framework/gdi.h"
 #include "framework/handle.h"
+#include "framework/high_contrast.h"
 
 namespace korvane::controls {
 namespace {
@@ -28,11 +29,22 @@ void PaintPlainRow(HDC dc, const base::Rect& row, COLORREF fill, COLORREF edge) 
 } // namespace
 
 void PaintSelectedRow(const fw::Theme& theme, HDC dc, const base::Rect& row, bool windows8) {
+    if (fw::HighContrast()) {
+        const RECT r = fw::ToWindows(row);
+        ::FillRect(dc, &r, ::GetSysColorBrush(COLOR_HIGHLIGHT));
+        return;
+    }
     if (theme) return theme.DrawBackground(dc, kListItemPart, SelectedRowState(windows8), row);
     PaintPlainRow(dc, row, Blend(COLOR_HIGHLIGHT, COLOR_WINDOW, 20), Blend(COLOR_HIGHLIGHT, COLOR_WINDOW, 60));
 }
 
 void PaintItemFrame(const fw::Theme& theme, HDC dc, const base::Rect& frame) {
+    if (fw::HighContrast()) {
+        const RECT r = fw::ToWindows(frame);
+        ::FillRect(dc, &r, ::GetSysColorBrush(COLOR_WINDOW));
+        ::FrameRect(dc, &r, ::GetSysColorBrush(COLOR_WINDOWTEXT));
+        return;
+    }
     if (theme) return theme.DrawBackground(dc, kListItemPart, kListItemSelectedUnfocused, frame);
     PaintPlainRow(dc, frame, Blend(COLOR_WINDOWTEXT, COLOR_WINDOW, 6), Blend(COLOR_WINDOWTEXT, COLOR_WINDOW, 20));
 }

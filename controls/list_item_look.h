@@ -21,7 +21,15 @@ inline constexpr int kListItemSelectedUnfocused = 5;
     return windows8 ? kListItemHot : kListItemSelected;
 }
 
-// The ground of a selected row; the text on it keeps its colour, so the plain one is pale.
+// What the text of a row is drawn in: an index of GetSysColor. On the system's highlight, which high contrast asks for,
+// it is another than elsewhere.
+[[nodiscard]] constexpr int RowTextColour(bool selected, bool enabled, bool highContrast) {
+    if (selected && highContrast) return COLOR_HIGHLIGHTTEXT;
+    return enabled ? COLOR_WINDOWTEXT : COLOR_GRAYTEXT;
+}
+
+// The ground of a selected row: the system's highlight in high contrast; else the text on it keeps its colour, so the
+// plain one is pale.
 void PaintSelectedRow(const fw::Theme& theme, HDC dc, const base::Rect& row, bool windows8);
 
 // A frame that stands out quietly, such as the one around an item's icon.

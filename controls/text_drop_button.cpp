@@ -47,6 +47,7 @@ fw::Reply CTextDropButton::OnClicked(const fw::Message& m) {
 void CTextDropButton::Paint(HDC dc, const base::Rect& area, const ButtonFacts& facts) {
     const ButtonState state = StateOf(facts);
     PaintGround(dc, area, state);
+    const Ink ink = InkOn(dc, area, state, textColour_);
     const TextDropLayout layout = LayOutTextDrop(area, state, fw::Scale());
     if (image_) {
         image_.Draw(dc, layout.image);
@@ -54,19 +55,16 @@ void CTextDropButton::Paint(HDC dc, const base::Rect& area, const ButtonFacts& f
         const base::Rect& at = layout.image;
         ::DrawIconEx(dc, at.left, at.top, icon_.Get(), at.Width(), at.Height(), 0, nullptr, DI_NORMAL);
     }
-    PaintText(dc, layout.text);
-    FillFigure(dc, DownArrow(layout.arrow), ::GetSysColorBrush(SystemColourIndex(textColour_)));
+    PaintText(dc, layout.text, ink);
+    FillInked(dc, DownArrow(layout.arrow), ink);
 }
 
-void CTextDropButton::PaintText(HDC dc, const base::Rect& where) const {
+void CTextDropButton::PaintText(HDC dc, const base::Rect& where, const Ink& ink) const {
     const std::wstring text = fw::WindowText(Handle());
     const auto own = reinterpret_cast<HFONT>(::SendMessageW(Handle(), WM_GETFONT, 0, 0));
     const fw::SelectedObject font{dc, own ? own : host_.BarFont()};
-    ::SetBkMode(dc, TRANSPARENT);
-    ::SetTextColor(dc, ::GetSysColor(SystemColourIndex(textColour_)));
-    RECT r = fw::ToWindows(where);
     // A command's name may hold an ampersand; it is no mnemonic here.
-    ::DrawTextW(dc, text.c_str(), -1, &r, DT_SINGLELINE | DT_VCENTER | DT_WORD_ELLIPSIS | DT_NOPREFIX);
+    DrawInked(dc, text, where, DT_SINGLELINE | DT_VCENTER | DT_WORD_ELLIPSIS | DT_NOPREFIX, ink);
 }
 
 const wchar_t* CTextDropButton::ThemeClasses() const {

@@ -39,7 +39,7 @@ public:
 private:
     fw::Reply OnClicked(const fw::Message& m);
     void RedrawIfCreated() const;
-    void PaintText(HDC dc, const base::Rect& where) const;
+    void PaintText(HDC dc, const base::Rect& where, const Ink& ink) const;
 
     BarHost& host_;
     fw::PngImage image_;

@@ -72,17 +72,17 @@ void CTimeBarButton::Update() {
 }
 
 void CTimeBarButton::Paint(HDC dc, const base::Rect& area, const ButtonFacts& facts) {
-    PaintGround(dc, area, sources_.style == ClockStyle::kPlain ? ButtonState::kNormal : StateOf(facts));
+    const ButtonState state = sources_.style == ClockStyle::kPlain ? ButtonState::kNormal : StateOf(facts);
+    PaintGround(dc, area, state);
+    const Ink ink = InkOn(dc, area, state, textColour_);
 
     const bool small = UsesSmallFont(formatId_, sources_.style) && smallFont_;
     const fw::SelectedObject font{dc, small ? smallFont_.Get() : host_.BarFont()};
-    ::SetBkMode(dc, TRANSPARENT);
-    ::SetTextColor(dc, ::GetSysColor(SystemColourIndex(textColour_)));
     RECT measured{area.left, area.top, area.left, area.top};
     constexpr UINT kLook = DT_CENTER | DT_NOPREFIX;
     ::DrawTextW(dc, clockText_.c_str(), -1, &measured, kLook | DT_CALCRECT);
-    RECT at = fw::ToWindows(PlaceClockText(area, fw::FromWindows(measured).Extent(), formatId_, sources_.style));
-    ::DrawTextW(dc, clockText_.c_str(), -1, &at, kLook);
+    const base::Size size = fw::FromWindows(measured).Extent();
+    DrawInked(dc, clockText_, PlaceClockText(area, size, formatId_, sources_.style), kLook, ink);
 }
 
 const wchar_t* CTimeBarButton::ThemeClasses() const {

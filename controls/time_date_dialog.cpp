@@ -2,6 +2,7 @@
 
 #include <shellapi.h>
 
+#include <cstdlib>
 #include <memory>
 #include <optional>
 #include <utility>
@@ -23,6 +24,9 @@ constexpr DWORD kAnimationMs = 50;
 // line fits its place.
 constexpr int kTimeLineHeight = 56;
 constexpr int kDateLineHeight = 22;
+
+// At 96 dpi.
+constexpr int kFrame = 1;
 
 fw::UniqueFont FontOfHeight(HFONT like, int lineHeightPx) {
     LOGFONTW font{};
@@ -80,16 +84,21 @@ void CTimeDateDialog::OnFinalMessage() {
 
 bool CTimeDateDialog::PreTranslate(const MSG& message) {
     if (message.hwnd != Handle() && !::IsChild(Handle(), message.hwnd)) return false;
-    if (message.message == WM_KEYDOWN) {
-        if (const auto step = StepOfKey(message.wParam)) {
-            OnStep(*step);
-            return true;
-        }
-        if (message.wParam == VK_TAB) ShowFocus();
-    }
+    if (message.message == WM_KEYDOWN && PressKey(message.wParam)) return true;
     // The object may be gone afterwards.
     MSG copy = message;
     return ::IsDialogMessageW(Handle(), &copy) != FALSE;
+}
+
+bool CTimeDateDialog::PressKey(WPARAM virtualKey) {
+    if (virtualKey == VK_TAB) ShowFocus();
+    if (virtualKey == VK_HOME) {
+        calendar_.ReturnToToday();
+        return true;
+    }
+    const auto step = StepOfKey(virtualKey);
+    if (step) OnStep(*step);
+    return step.has_value();
 }
 
 bool CTimeDateDialog::OnInitDialog(HWND) {
@@ -129,16 +138,17 @@ bool CTimeDateDialog::CreateChildren() {
                               .id = id});
     };
     calendar_.SetLook(look_, host_.BarFont());
-    return calendar_.Create({.rect = fw::ToWindows(CalendarRect(fw::Scale())), .style = kStyle, .parent = Handle()}) &&
-           createButton(previousMonth_, kPreviousMonthButton, IDS_PREVIOUS_MONTH) &&
+    // In the order in which the eye meets them, which is also that of the tab key and of a screen reader.
+    return createButton(previousMonth_, kPreviousMonthButton, IDS_PREVIOUS_MONTH) &&
+           calendar_.Create({.rect = fw::ToWindows(CalendarRect(fw::Scale())), .style = kStyle, .parent = Handle()}) &&
            createButton(nextMonth_, kNextMonthButton, IDS_NEXT_MONTH);
 }
 
 void CTimeDateDialog::TakeLook() {
     look_ = LookOn(host_.BarBrush());
     calendar_.SetLook(look_, host_.BarFont());
-    previousMonth_.SetArrowColour(look_.textColor);
-    nextMonth_.SetArrowColour(look_.textColor);
+    previousMonth_.SetArrowColour(look_.text.colour);
+    nextMonth_.SetArrowColour(look_.text.colour);
     Redraw();
 }
 
@@ -171,17 +181,24 @@ bool CTimeDateDialog::OnEraseBackground(HDC dc) {
     const PaintBuffer buffer{dc, client};
     const fw::SavedDc saved{buffer.Dc()};
     FillFigure(buffer.Dc(), {&client, 1}, look_.ground);
+    PaintFrame(buffer.Dc(), client);
     if (!timeText_.empty()) Paint(buffer.Dc(), client);
     return true;
 }
 
+// A border of the window's own would take its room from the client area, and all that stands in it would be off the
+// middle.
+void CTimeDateDialog::PaintFrame(HDC dc, const base::Rect& client) {
+    for (int ring = 0; ring < fw::Scale()(kFrame); ++ring) {
+        const RECT frame = fw::ToWindows(client.Inset(ring));
+        ::FrameRect(dc, &frame, ::GetSysColorBrush(COLOR_WINDOWFRAME));
+    }
+}
+
 void CTimeDateDialog::Paint(HDC dc, base::Rect client) const {
-    ::SetBkMode(dc, TRANSPARENT);
-    ::SetTextColor(dc, fw::ToWindows(look_.textColor));
     const auto draw = [&](const std::wstring& text, const fw::UniqueFont& font) {
         ::SelectObject(dc, font ? font.Get() : host_.BarFont());
-        RECT r = fw::ToWindows(client);
-        ::DrawTextW(dc, text.c_str(), -1, &r, DT_CENTER | DT_NOPREFIX);
+        DrawInked(dc, text, client, DT_CENTER | DT_NOPREFIX, look_.text);
     };
     draw(timeText_, timeFont_);
     client.top += fw::Scale()(kDateTop);
@@ -202,6 +219,16 @@ void CTimeDateDialog::OnDoubleClick(const fw::Message&) {
     TimeDateHost& host = host_;
     const ShellStart start = sources_.start;
     host.OnTimeSettingsStarted(start(L"open", L"control.exe", L"timedate.cpl", SW_SHOWNORMAL));
+}
+
+void CTimeDateDialog::OnWheel(const fw::Message& message) {
+    const int steps = wheel_.Turn(static_cast<short>(HIWORD(message.wparam)));
+    for (int i = 0; i < std::abs(steps); ++i) OnStep(steps > 0 ? kPreviousMonthButton : kNextMonthButton);
+}
+
+fw::Reply CTimeDateDialog::OnColoursChanged(const fw::Message&) {
+    TakeLook();
+    return fw::kPassOn;
 }
 
 void CTimeDateDialog::OnReturnToToday(const fw::Message&) {

@@ -8,6 +8,7 @@
 
 #include "controls/calender_window.h"
 #include "controls/local_clock.h"
+#include "controls/logic/wheel_steps.h"
 #include "controls/time_date_host.h"
 #include "controls/up_down_button.h"
 #include "framework/dialog.h"
@@ -44,6 +45,8 @@ public:
             fw::On<WM_DRAWITEM>(&CTimeDateDialog::OnDrawItem),
             fw::On<WM_ACTIVATE>(&CTimeDateDialog::OnActivate),
             fw::On<WM_LBUTTONDBLCLK>(&CTimeDateDialog::OnDoubleClick),
+            fw::On<WM_MOUSEWHEEL>(&CTimeDateDialog::OnWheel),
+            fw::On<WM_SYSCOLORCHANGE>(&CTimeDateDialog::OnColoursChanged),
             fw::On<CCalenderWindow::kReturnToToday>(&CTimeDateDialog::OnReturnToToday),
             fw::OnCommand<kPreviousMonthButton>(&CTimeDateDialog::OnStep),
             fw::OnCommand<kNextMonthButton>(&CTimeDateDialog::OnStep),
@@ -60,12 +63,15 @@ private:
     void OnFinalMessage() override;
     bool PreTranslate(const MSG& message) override;
 
+    [[nodiscard]] bool PressKey(WPARAM virtualKey);
     bool OnInitDialog(HWND focus);
     fw::Reply OnTimer(UINT_PTR id);
     bool OnEraseBackground(HDC dc);
     fw::Reply OnDrawItem(const fw::Message& message);
     fw::Reply OnActivate(UINT activation, bool minimised);
     void OnDoubleClick(const fw::Message& message);
+    void OnWheel(const fw::Message& message);
+    fw::Reply OnColoursChanged(const fw::Message& message);
     void OnReturnToToday(const fw::Message& message);
     void OnStep(UINT button);
     fw::Reply OnClose();
@@ -76,6 +82,7 @@ private:
     void TakeLook();
     void Update();
     void FillCalendar(CalendarPage page, const ClockReading& now, Filling filling);
+    static void PaintFrame(HDC dc, const base::Rect& client);
     void Paint(HDC dc, base::Rect client) const;
 
     TimeDateHost& host_;
@@ -88,9 +95,10 @@ private:
     fw::UniqueFont dateFont_;
     fw::Timer timer_;
     CCalenderWindow calendar_;
-    CUpDownButton previousMonth_{Direction::kLeft, look_.textColor};
-    CUpDownButton nextMonth_{Direction::kRight, look_.textColor};
+    CUpDownButton previousMonth_{Direction::kLeft, look_.text.colour};
+    CUpDownButton nextMonth_{Direction::kRight, look_.text.colour};
     CalendarPage page_;
+    WheelSteps wheel_;
     bool closing_ = false;
 };
 

@@ -6,6 +6,7 @@
 
 #include "controls/bar_button.h"
 #include "framework/gdiplus_image.h"
+#include "framework/pixel_bitmap.h"
 
 namespace korvane::controls {
 
@@ -16,13 +17,11 @@ public:
 
     // The image is the icon, or else the one of the lists, or else the picture. Each may be set, and the icon and the
     // picture taken away again, at any time.
-    void SetIcon(fw::UniqueIcon icon);
+    void SetIcon(fw::UniqueIcon icon, fw::ImageKind kind = fw::ImageKind::kPicture);
     // Both lists are borrowed; without a list for the disabled state the normal one serves.
-    void SetImageListIndex(HIMAGELIST normal, HIMAGELIST disabled, int index);
+    void SetImageListIndex(HIMAGELIST normal, HIMAGELIST disabled, int index,
+                           fw::ImageKind kind = fw::ImageKind::kPicture);
     void SetImage(fw::PngImage image);
-
-    // While set, the keyboard focus looks like the mouse over the button.
-    void SetFocusShownAsHot(bool shown);
 
     // For the mix-ins.
     void Paint(HDC dc, const base::Rect& area, const ButtonFacts& facts);
@@ -31,13 +30,19 @@ public:
 private:
     void RedrawIfCreated() const;
     void PaintImage(HDC dc, const base::Rect& area, ButtonState state) const;
+    void PaintIcon(HDC dc, const base::Rect& at, ButtonState state) const;
+    void PaintListImage(HDC dc, const base::Rect& area, ButtonState state) const;
+    // True when it was done.
+    [[nodiscard]] bool PaintInSystemColour(HDC dc, const base::Rect& at, ButtonState state, fw::ImageKind kind,
+                                           const fw::Painter& paint) const;
 
     fw::UniqueIcon icon_;
+    fw::ImageKind iconKind_ = fw::ImageKind::kPicture;
     HIMAGELIST normalImages_ = nullptr;
     HIMAGELIST disabledImages_ = nullptr;
     int imageIndex_ = -1;
+    fw::ImageKind listKind_ = fw::ImageKind::kPicture;
     fw::PngImage image_;
-    bool focusShownAsHot_ = false;
 };
 
 } // namespace korvane::controls

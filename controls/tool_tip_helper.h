@@ -12,17 +12,31 @@ namespace korvane::controls {
 // The tooltip control of one child window. It is a window of its own, owned by the child's parent.
 class ToolTip {
 public:
+    ToolTip() = default;
+    ToolTip(const ToolTip&) = delete;
+    ToolTip& operator=(const ToolTip&) = delete;
+    ~ToolTip() { Destroy(); }
+
     // False when Windows has no tooltip to give; the child then has none.
     bool Create(HWND child, const std::wstring& text);
-    void SetText(const std::wstring& text) const;
-    void Destroy() { window_.Reset(); }
+    void SetText(const std::wstring& text);
+    void Destroy();
     [[nodiscard]] HWND Handle() const { return window_.Get(); }
 
+    // To be told when the child was enabled, disabled or moved: a disabled window hears nothing of the mouse, and its
+    // place in the parent has to stand for it.
+    void OnChildChanged();
+
 private:
-    void Send(UINT message, const std::wstring& text) const;
+    void CoverPlace();
+    void UncoverPlace();
+    [[nodiscard]] bool Covers() const { return covered_ != nullptr; }
+    static LRESULT CALLBACK RelayMouse(HWND parent, UINT id, WPARAM wparam, LPARAM lparam, UINT_PTR tip, DWORD_PTR);
 
     fw::UniqueHandle<HWND, &::DestroyWindow> window_;
     HWND child_ = nullptr;
+    HWND covered_ = nullptr; // the parent, while it hears the mouse for a disabled child
+    std::wstring text_;
 };
 
 // The private message with which a window asks itself for its tooltip.
@@ -35,6 +49,8 @@ public:
     static constexpr auto Messages() {
         return fw::MessageMap{
             fw::On<kMakeTipMessage>(&CToolTipHelper::OnMakeTip),
+            fw::On<WM_ENABLE>(&CToolTipHelper::OnChanged),
+            fw::On<WM_WINDOWPOSCHANGED>(&CToolTipHelper::OnChanged),
             fw::On<WM_DESTROY>(&CToolTipHelper::OnDestroy),
         };
     }
@@ -74,6 +90,11 @@ private:
 
     void OnMakeTip(const fw::Message&) {
         if (allowed_) MakeTip();
+    }
+
+    fw::Reply OnChanged(const fw::Message&) {
+        tip_.OnChildChanged();
+        return fw::kPassOn;
     }
 
     fw::Reply OnDestroy(const fw::Message&) {

@@ -9,20 +9,29 @@ class CUpDownButton final : public BarButton<CUpDownButton> {
 public:
     static constexpr fw::WindowClass kClass{.name = L"UpDownButton_WndClass", .base = L"BUTTON"};
 
+    static constexpr bool kTakesFocusByMouse = true;
+
+    static constexpr auto Messages() {
+        return fw::MessageMap{
+            fw::On<WM_GETDLGCODE>(&CUpDownButton::OnDialogCode),
+            fw::Chain<BarButton<CUpDownButton>>(),
+        };
+    }
+
     CUpDownButton(Direction direction, base::Colour arrow) : direction_{direction}, arrow_{arrow} {}
 
     void SetArrowColour(base::Colour arrow);
-    // Whether a frame tells that it has the keyboard focus. At first it does not: mouse users need no such thing.
-    void SetFocusShown(bool shown);
 
     // For the mix-ins.
     void Paint(HDC dc, const base::Rect& area, const ButtonFacts& facts);
     [[nodiscard]] const wchar_t* ThemeClasses() const;
 
 private:
+    LRESULT OnDialogCode(const fw::Message& message);
+    [[nodiscard]] base::Colour ArrowOn(base::Colour ground, ButtonState state) const;
+
     Direction direction_;
     base::Colour arrow_;
-    bool focusShown_ = false;
 };
 
 } // namespace korvane::controls

@@ -2,12 +2,13 @@
 
 #include <algorithm>
 #include <cstdint>
-#include <span>
 #include <utility>
 #include <vector>
 
 #include "framework/gdi.h"
+#include "framework/high_contrast.h"
 #include "framework/menu_pixels.h"
+#include "framework/pixel_bitmap.h"
 #include "framework/theme.h"
 #include "framework/windows_version.h"
 
@@ -17,60 +18,17 @@ namespace {
 using korvane::base::Rect;
 using korvane::base::Size;
 
-// A square bitmap of 32-bit pixels, top row first.
-class PixelSquare {
-public:
-    explicit PixelSquare(int sidePx) {
-        BITMAPINFO info{};
-        info.bmiHeader.biSize = sizeof info.bmiHeader;
-        info.bmiHeader.biWidth = sidePx;
-        info.bmiHeader.biHeight = -sidePx;
-        info.bmiHeader.biPlanes = 1;
-        info.bmiHeader.biBitCount = 32;
-        void* bits = nullptr;
-        bitmap_.Reset(::CreateDIBSection(nullptr, &info, DIB_RGB_COLORS, &bits, nullptr, 0));
-        if (bitmap_) pixels_ = {static_cast<std::uint32_t*>(bits), static_cast<std::size_t>(sidePx) * sidePx};
-    }
-
-    [[nodiscard]] HBITMAP Bitmap() const { return bitmap_.Get(); }
-    // Empty when there is no bitmap.
-    [[nodiscard]] std::span<std::uint32_t> Pixels() const { return pixels_; }
-    [[nodiscard]] UniqueBitmap Take() { return std::move(bitmap_); }
-
-private:
-    UniqueBitmap bitmap_;
-    std::span<std::uint32_t> pixels_;
-};
-
-bool PaintIcon(const PixelSquare& target, std::uint32_t ground, HICON icon, int sidePx) {
-    std::ranges::fill(target.Pixels(), ground);
-    const UniqueMemoryDc dc{::CreateCompatibleDC(nullptr)};
-    const SelectedObject selected{dc.Get(), target.Bitmap()};
-    const bool painted = ::DrawIconEx(dc.Get(), 0, 0, icon, sidePx, sidePx, 0, nullptr, DI_NORMAL) != FALSE;
-    // Drawing may be held back until the pixels are read by GDI; they are going to be read directly.
-    ::GdiFlush();
-    return painted;
-}
-
 UniqueBitmap PictureOf(HICON icon, int sidePx) {
-    constexpr std::uint32_t kBlack = 0x00000000;
-    constexpr std::uint32_t kWhite = 0x00FFFFFF;
-    PixelSquare picture{sidePx};
-    const PixelSquare overWhite{sidePx};
-    if (!icon || !picture.Bitmap() || !overWhite.Bitmap()) return {};
-    if (!PaintIcon(picture, kBlack, icon, sidePx) || !PaintIcon(overWhite, kWhite, icon, sidePx)) return {};
-    std::ranges::transform(picture.Pixels(), overWhite.Pixels(), picture.Pixels().begin(), &PremultipliedPixel);
-    return picture.Take();
+    if (!icon) return {};
+    return PremultipliedPicture({sidePx, sidePx}, [=](HDC dc) {
+        return ::DrawIconEx(dc, 0, 0, icon, sidePx, sidePx, 0, nullptr, DI_NORMAL) != FALSE;
+    });
 }
 
-UniqueBitmap DimmedCopyOf(HBITMAP picture) {
-    DIBSECTION section{};
-    if (::GetObjectW(picture, sizeof section, &section) != sizeof section) return {};
-    const int sidePx = static_cast<int>(section.dsBm.bmWidth);
-    PixelSquare copy{sidePx};
-    const std::span from{static_cast<const std::uint32_t*>(section.dsBm.bmBits), copy.Pixels().size()};
-    std::ranges::transform(from, copy.Pixels().begin(), &DimmedPixel);
-    return copy.Take();
+// The colour that the system gives the text beside the image.
+COLORREF TextColourBeside(UINT itemState) {
+    if ((itemState & (ODS_GRAYED | ODS_DISABLED)) != 0) return ::GetSysColor(COLOR_GRAYTEXT);
+    return ::GetSysColor((itemState & ODS_SELECTED) != 0 ? COLOR_HIGHLIGHTTEXT : COLOR_MENUTEXT);
 }
 
 // The images that Windows draws of its own accord, such as the cross beside "Close"; the owner's callback and real
@@ -112,18 +70,19 @@ void GiveToItem(HMENU popup, int position, HBITMAP image) {
 } // namespace
 
 MenuImageStyle CurrentMenuImageStyle() {
-    return MenuImageStyleFor(IsWine(), VisualStylesActive());
+    // A visual style for high contrast has the system's colours, but it is no help to a bitmap that has its own.
+    return MenuImageStyleFor(IsWine(), VisualStylesActive() && !HighContrast());
 }
 
 MenuImages::MenuImages(int imagePx, Size cell, std::function<MenuImageStyle()> style)
     : imagePx_{imagePx}, cell_{cell}, style_{std::move(style)} {}
 
 void MenuImages::Set(UINT command, HICON icon) {
-    images_[command] = {.source = {}, .normal = PictureOf(icon, imagePx_), .dimmed = {}};
+    images_[command] = {.kind = ImageKind::kPicture, .source = {}, .normal = PictureOf(icon, imagePx_), .dimmed = {}};
 }
 
-void MenuImages::Set(UINT command, IconSource source) {
-    images_[command] = {.source = std::move(source), .normal = {}, .dimmed = {}};
+void MenuImages::Set(UINT command, IconSource source, ImageKind kind) {
+    images_[command] = {.kind = kind, .source = std::move(source), .normal = {}, .dimmed = {}};
 }
 
 void MenuImages::Remove(UINT command) {
@@ -156,7 +115,7 @@ HBITMAP MenuImages::BitmapOf(UINT command, bool greyed) {
     Image& image = found->second;
     if (image.source) image.normal = PictureOf(std::exchange(image.source, {})().Get(), imagePx_);
     if (!greyed || !image.normal) return image.normal.Get();
-    if (!image.dimmed) image.dimmed = DimmedCopyOf(image.normal.Get());
+    if (!image.dimmed) image.dimmed = ChangedCopyOf(image.normal.Get(), &DimmedPixel);
     return image.dimmed.Get();
 }
 
@@ -169,13 +128,17 @@ Reply MenuImages::Measure(MEASUREITEMSTRUCT& item) const {
 
 Reply MenuImages::Draw(const DRAWITEMSTRUCT& item) {
     if (item.CtlType != ODT_MENU) return kPassOn;
-    const HBITMAP image = BitmapOf(item.itemID, (item.itemState & (ODS_GRAYED | ODS_DISABLED)) != 0);
-    if (!image) return LRESULT{TRUE};
-    const UniqueMemoryDc source{::CreateCompatibleDC(item.hDC)};
-    const SelectedObject selected{source.Get(), image};
     const Rect at = korvane::base::Centred(FromWindows(item.rcItem), {imagePx_, imagePx_});
-    constexpr BLENDFUNCTION kByAlpha{AC_SRC_OVER, 0, 255, AC_SRC_ALPHA};
-    ::GdiAlphaBlend(item.hDC, at.left, at.top, imagePx_, imagePx_, source.Get(), 0, 0, imagePx_, imagePx_, kByAlpha);
+    const auto found = images_.find(item.itemID);
+    if (found != images_.end() && found->second.kind == ImageKind::kDrawing && HighContrast()) {
+        const COLORREF ink = TextColourBeside(item.itemState);
+        const UniqueBitmap drawing = ChangedCopyOf(BitmapOf(item.itemID, false),
+                                                   [ink](std::uint32_t pixel) { return PixelInColour(pixel, ink); });
+        if (drawing) DrawPremultiplied(item.hDC, at, drawing.Get());
+        return LRESULT{TRUE};
+    }
+    const HBITMAP image = BitmapOf(item.itemID, (item.itemState & (ODS_GRAYED | ODS_DISABLED)) != 0);
+    if (image) DrawPremultiplied(item.hDC, at, image);
     return LRESULT{TRUE};
 }
 

@@ -8,6 +8,7 @@
 #include "base/geometry.h"
 #include "framework/handle.h"
 #include "framework/message_map.h"
+#include "framework/pixel_bitmap.h"
 
 namespace fw {
 
@@ -39,7 +40,7 @@ public:
 
     // Takes over an icon's picture; the icon stays the caller's. Without a usable icon the command has no image.
     void Set(UINT command, HICON icon);
-    void Set(UINT command, IconSource source);
+    void Set(UINT command, IconSource source, ImageKind kind = ImageKind::kPicture);
     // Menus that show the image must have lost it, or be asked for anew, before they are shown again.
     void Remove(UINT command);
 
@@ -52,6 +53,7 @@ public:
 
 private:
     struct Image {
+        ImageKind kind = ImageKind::kPicture;
         IconSource source; // until it has been asked
         UniqueBitmap normal;
         UniqueBitmap dimmed; // made when first needed

@@ -32,4 +32,11 @@ namespace fw {
     return PixelOf(ChannelOf(pixel, 24) / 2, grey, grey, grey);
 }
 
+// The same pixel in another colour (0x00BBGGRR, as Windows has it) and as dense as before.
+[[nodiscard]] constexpr std::uint32_t PixelInColour(std::uint32_t pixel, std::uint32_t colour) {
+    const int alpha = ChannelOf(pixel, 24);
+    const auto part = [&](int shift) { return ChannelOf(colour, shift) * alpha / 255; };
+    return PixelOf(alpha, part(0), part(8), part(16));
+}
+
 } // namespace fw

@@ -34,9 +34,9 @@ void CAppMenuBar::AddIcon(UINT command, HICON icon) {
     images_.Set(command, icon);
 }
 
-void CAppMenuBar::AddIcon(UINT command, IconSource source) {
+void CAppMenuBar::AddIcon(UINT command, IconSource source, fw::ImageKind kind) {
     RemoveImage(command);
-    images_.Set(command, std::move(source));
+    images_.Set(command, std::move(source), kind);
 }
 
 void CAppMenuBar::RemoveImage(UINT command) {

@@ -29,7 +29,7 @@ public:
     // Takes over the icon's picture; the icon stays the caller's.
     void AddIcon(UINT command, HICON icon);
     // The source is asked when the command is first shown; until then its icon costs nothing.
-    void AddIcon(UINT command, IconSource source);
+    void AddIcon(UINT command, IconSource source, fw::ImageKind kind = fw::ImageKind::kPicture);
     void RemoveImage(UINT command);
 
     // After the owner has brought the pop-up's items and their states up to date.

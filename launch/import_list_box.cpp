@@ -6,6 +6,7 @@
 #include "controls/list_item_look.h"
 #include "framework/dpi.h"
 #include "framework/gdi.h"
+#include "framework/high_contrast.h"
 #include "framework/windows_version.h"
 #include "launch/logic/import_rules.h"
 
@@ -145,7 +146,8 @@ void CImportListBox::OnDrawItem(const DRAWITEMSTRUCT& draw) {
 }
 
 void CImportListBox::DrawRow(HDC dc, const RECT& rect, const ImportableItem& item, UINT state) const {
-    if ((state & ODS_SELECTED) && item.selectable)
+    const bool selected = (state & ODS_SELECTED) != 0 && item.selectable;
+    if (selected)
         controls::PaintSelectedRow(CurrentTheme(), dc, fw::FromWindows(rect), fw::IsWindowsAtLeast(fw::kWindows8));
     const auto& scale = fw::Scale();
     const int iconWidth = ::GetSystemMetrics(SM_CXSMICON);
@@ -159,7 +161,7 @@ void CImportListBox::DrawRow(HDC dc, const RECT& rect, const ImportableItem& ite
     text.left = iconLeft + iconWidth + scale(kTextGapPx);
     text.right -= scale(kTextRightPx);
     ::SetBkMode(dc, TRANSPARENT);
-    ::SetTextColor(dc, ::GetSysColor(item.selectable ? COLOR_WINDOWTEXT : COLOR_GRAYTEXT));
+    ::SetTextColor(dc, ::GetSysColor(controls::RowTextColour(selected, item.selectable, fw::HighContrast())));
     ::DrawTextW(dc, item.name.c_str(), static_cast<int>(item.name.size()), &text,
                 DT_SINGLELINE | DT_VCENTER | DT_END_ELLIPSIS | DT_NOPREFIX);
 }

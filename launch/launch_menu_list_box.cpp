@@ -2,9 +2,10 @@
 
 #include "base/colour.h"
 #include "base/text.h"
-#include "controls/logic/bar_colour.h"
+#include "controls/logic/contrast.h"
 #include "framework/dpi.h"
 #include "framework/gdi.h"
+#include "framework/high_contrast.h"
 #include "launch/logic/launch_page.h"
 #include "launch/logic/launch_row_layout.h"
 #include "launch/logic/path_parts.h"
@@ -15,11 +16,13 @@ namespace {
 // The items that stand on the launch buttons.
 constexpr base::Colour kButtonRowColour = base::Colour::Rgb(0, 104, 136);
 
-// On the dark window of a high-contrast scheme the blue-green could not be read.
-COLORREF TextColourOf(int row) {
+// On a dark window the blue-green could not be read.
+COLORREF TextColourOf(int row, bool selected) {
+    const bool highContrast = fw::HighContrast();
     const base::Colour window{::GetSysColor(COLOR_WINDOW)};
-    return IsButtonRow(row) && !controls::Vanishes(kButtonRowColour, window) ? fw::ToWindows(kButtonRowColour)
-                                                                             : ::GetSysColor(COLOR_WINDOWTEXT);
+    const bool legible = controls::Contrast(kButtonRowColour, window) >= controls::kLegible;
+    if (IsButtonRow(row) && legible && !highContrast) return fw::ToWindows(kButtonRowColour);
+    return ::GetSysColor(controls::RowTextColour(selected, true, highContrast));
 }
 
 int WidthOf(HDC dc, const std::wstring& text) {
@@ -125,7 +128,7 @@ void CLaunchMenuListBox::DrawRow(HDC dc, int row, const base::Rect& place, bool 
         ::DrawIconEx(dc, layout.icon.left, layout.icon.top, item->Icon(), layout.icon.Width(), layout.icon.Height(), 0,
                      nullptr, DI_NORMAL);
     ::SetBkMode(dc, TRANSPARENT);
-    ::SetTextColor(dc, TextColourOf(row));
+    ::SetTextColor(dc, TextColourOf(row, selected));
     DrawLine(dc, layout.firstLine, RowLabel(row) + L" " + item->Name(), DT_END_ELLIPSIS);
     DrawPath(dc, layout.secondLine, item->Path());
 }

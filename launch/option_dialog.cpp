@@ -11,8 +11,10 @@
 #include "framework/centring.h"
 #include "framework/dpi.h"
 #include "framework/gdi.h"
+#include "framework/high_contrast.h"
 #include "framework/icons.h"
 #include "framework/monitors.h"
+#include "framework/pixel_bitmap.h"
 #include "framework/string_table.h"
 #include "framework/window_text.h"
 #include "launch/logic/options_fit.h"
@@ -20,8 +22,21 @@
 namespace korvane::launch {
 namespace {
 
-constexpr base::Colour kStripColour = base::Colour::Rgb(96, 96, 96);
-constexpr base::Colour kStripText = base::Colour::Rgb(255, 255, 255);
+// Of the strip with the tree.
+struct StripColours {
+    base::Colour ground;
+    base::Colour text;
+    base::Colour selectedGround;
+    base::Colour selectedText;
+};
+
+StripColours StripColoursNow() {
+    constexpr base::Colour kWhite = base::Colour::Rgb(255, 255, 255);
+    constexpr base::Colour kGrey = base::Colour::Rgb(96, 96, 96);
+    if (!fw::HighContrast()) return {kGrey, kWhite, base::kThemeColour, kWhite};
+    const auto system = [](int index) { return base::Colour{::GetSysColor(index)}; };
+    return {system(COLOR_WINDOW), system(COLOR_WINDOWTEXT), system(COLOR_HIGHLIGHT), system(COLOR_HIGHLIGHTTEXT)};
+}
 
 // How much higher than usual a row of the tree is, at 96 dpi.
 constexpr int kExtraRowHeight = 7;
@@ -58,8 +73,8 @@ bool COptionDialog::OnInitDialog(HWND) {
     ::SendMessageW(Handle(), WM_SETICON, ICON_SMALL, reinterpret_cast<LPARAM>(smallIcon_.Get()));
     const controls::MenuPictures pictures = controls::MenuPicturesFor(fw::Scale().Dpi());
     logo_ = fw::PngImage::FromResource(pictures.onDark);
+    plainLogo_ = fw::PngImage::FromResource(pictures.onLight);
     logoSize_ = controls::DrawnSize(logo_.Extent(), pictures.artDpi, fw::Scale().Dpi());
-    stripBrush_.Reset(::CreateSolidBrush(fw::ToWindows(kStripColour)));
 
     RECT tree{};
     ::GetWindowRect(Control(IDC_OPTION_TREE), &tree);
@@ -151,10 +166,8 @@ void COptionDialog::Stretch(base::Size by) {
 void COptionDialog::FillTree() {
     const HWND tree = Control(IDC_OPTION_TREE);
     treeImages_ = fw::MakeImageList({IDI_SETTINGS, IDI_OPTION_PAGE}, ::GetSystemMetrics(SM_CXSMICON));
-    TreeView_SetBkColor(tree, fw::ToWindows(kStripColour));
-    TreeView_SetTextColor(tree, fw::ToWindows(kStripText));
+    ColourStrip();
     ::SendMessageW(tree, TVM_SETEXTENDEDSTYLE, static_cast<WPARAM>(kDoubleBuffered), kDoubleBuffered);
-    TreeView_SetImageList(tree, treeImages_.Get(), TVSIL_NORMAL);
     for (const OptionPage page : kOptionPages) {
         std::wstring name = fw::LoadText(OptionPageName(page));
         TVINSERTSTRUCTW insertion{};
@@ -167,6 +180,15 @@ void COptionDialog::FillTree() {
         ::SendMessageW(tree, TVM_INSERTITEMW, 0, reinterpret_cast<LPARAM>(&insertion));
     }
     TreeView_SetItemHeight(tree, TreeView_GetItemHeight(tree) + fw::Scale()(kExtraRowHeight));
+}
+
+void COptionDialog::ColourStrip() {
+    const HWND tree = Control(IDC_OPTION_TREE);
+    const StripColours colours = StripColoursNow();
+    TreeView_SetBkColor(tree, fw::ToWindows(colours.ground));
+    TreeView_SetTextColor(tree, fw::ToWindows(colours.text));
+    // The same picture before every name tells nothing, and it is made for the dark strip.
+    TreeView_SetImageList(tree, fw::HighContrast() ? nullptr : treeImages_.Get(), TVSIL_NORMAL);
 }
 
 fw::Reply COptionDialog::OnDestroy() {
@@ -233,10 +255,13 @@ LRESULT COptionDialog::OnDrawTree(NMTVCUSTOMDRAW& drawing) {
     switch (drawing.nmcd.dwDrawStage) {
     case CDDS_PREPAINT:
         return CDRF_NOTIFYITEMDRAW;
-    case CDDS_ITEMPREPAINT:
-        drawing.clrText = fw::ToWindows(kStripText);
-        drawing.clrTextBk = fw::ToWindows(drawing.nmcd.uItemState & CDIS_SELECTED ? base::kThemeColour : kStripColour);
+    case CDDS_ITEMPREPAINT: {
+        const StripColours colours = StripColoursNow();
+        const bool selected = (drawing.nmcd.uItemState & CDIS_SELECTED) != 0;
+        drawing.clrText = fw::ToWindows(selected ? colours.selectedText : colours.text);
+        drawing.clrTextBk = fw::ToWindows(selected ? colours.selectedGround : colours.ground);
         return CDRF_DODEFAULT;
+    }
     default:
         return CDRF_DODEFAULT;
     }
@@ -247,8 +272,18 @@ bool COptionDialog::OnEraseBackground(HDC dc) {
     const RECT all = fw::ToWindows(client);
     ::FillRect(dc, &all, ::GetSysColorBrush(COLOR_WINDOW));
     const RECT strip{0, 0, stripEnd_, client.bottom};
-    ::FillRect(dc, &strip, stripBrush_.Get());
-    logo_.Draw(dc, base::Rect::At(logoPlace_, logoSize_));
+    const StripColours colours = StripColoursNow();
+    const fw::UniqueBrush brush{::CreateSolidBrush(fw::ToWindows(colours.ground))};
+    ::FillRect(dc, &strip, brush.Get());
+    const base::Rect logo = base::Rect::At(logoPlace_, logoSize_);
+    if (!fw::HighContrast()) {
+        logo_.Draw(dc, logo);
+        return true;
+    }
+    fw::DrawSilhouette(dc, logo, fw::ToWindows(colours.text), [this](HDC one) {
+        plainLogo_.Draw(one, base::Rect::At({0, 0}, logoSize_));
+        return true;
+    });
     return true;
 }
 
@@ -271,6 +306,8 @@ fw::Reply COptionDialog::OnDisplayChange(UINT, SIZE) {
 
 // Only top-level windows are told of new colours.
 fw::Reply COptionDialog::OnSystemChange(const fw::Message& message) {
+    ColourStrip();
+    ::RedrawWindow(Handle(), nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_ALLCHILDREN);
     for (const OptionPage page : kOptionPages)
         ::SendMessageW(PageWindow(page), message.id, message.wparam, message.lparam);
     return fw::kPassOn;

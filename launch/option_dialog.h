@@ -42,6 +42,7 @@ public:
             fw::On<WM_DISPLAYCHANGE>(&COptionDialog::OnDisplayChange),
             fw::On<WM_SYSCOLORCHANGE>(&COptionDialog::OnSystemChange),
             fw::On<WM_DWMCOLORIZATIONCOLORCHANGED>(&COptionDialog::OnSystemChange),
+            fw::On<WM_SETTINGCHANGE>(&COptionDialog::OnSystemChange),
             fw::On<WM_HELP>(&COptionDialog::OnHelpKey),
             fw::OnNotify<IDC_OPTION_TREE, TVN_SELCHANGINGW>(&COptionDialog::OnPageChanging),
             fw::OnNotify<IDC_OPTION_TREE, TVN_SELCHANGEDW>(&COptionDialog::OnPageChanged),
@@ -82,6 +83,7 @@ private:
     void ShowWhole();
     // Moves and sizes what stands around the pages by how much wider and higher the dialog has become.
     void Stretch(base::Size by);
+    void ColourStrip();
     [[nodiscard]] HWND PageWindow(OptionPage page) const;
     // The page of the selected tree item; the first when none is selected.
     [[nodiscard]] OptionPage CurrentPage() const;
@@ -103,9 +105,9 @@ private:
 
     fw::UniqueImageList treeImages_;
     fw::PngImage logo_;
+    fw::PngImage plainLogo_; // without a shadow
     base::Size logoSize_;
     base::Point logoPlace_;
-    fw::UniqueBrush stripBrush_;
     int stripEnd_ = 0; // the right edge of the tree
     bool closing_ = false;
 };

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "base/colour.h"
+#include "controls/logic/button_state.h"
 
 namespace korvane::controls {
 
@@ -17,14 +18,31 @@ inline constexpr int kLightBarThreshold = 193;
 
 // What text and arrows on the bar are drawn in. The colours behind the names are the system's, asked when painting.
 enum class BarTextColour {
-    kButtonText, // COLOR_BTNTEXT
-    kWindowText, // COLOR_WINDOWTEXT, on a light bar
-    kWindow,     // COLOR_WINDOW: the light window background, as text on a dark bar
+    kButtonText,    // COLOR_BTNTEXT
+    kWindowText,    // COLOR_WINDOWTEXT, on a light bar
+    kWindow,        // COLOR_WINDOW: the light window background, as text on a dark bar
+    kHighlightText, // COLOR_HIGHLIGHTTEXT
+    kGreyText,      // COLOR_GRAYTEXT
 };
 
 [[nodiscard]] constexpr BarTextColour TextColourOn(base::Colour bar) {
     if (bar == kSystemDefaultColour) return BarTextColour::kButtonText;
     return IsLightBar(bar) ? BarTextColour::kWindowText : BarTextColour::kWindow;
+}
+
+// In a scheme of high contrast the bar is a window like any other, and what the mouse or the keyboard is on is
+// highlighted.
+[[nodiscard]] constexpr BarTextColour TextColourInHighContrast(ButtonState state) {
+    switch (state) {
+    case ButtonState::kHot:
+    case ButtonState::kPressed:
+        return BarTextColour::kHighlightText;
+    case ButtonState::kDisabled:
+        return BarTextColour::kGreyText;
+    case ButtonState::kNormal:
+        break;
+    }
+    return BarTextColour::kWindowText;
 }
 
 // How bright the eye takes a colour to be, 0 to 255, with the weights of ITU-R BT.601. For looks of our own only; the
@@ -34,17 +52,6 @@ enum class BarTextColour {
 }
 [[nodiscard]] constexpr bool LooksLight(base::Colour colour) {
     return Brightness(colour) >= 140;
-}
-
-// Black or white, whichever stands out.
-[[nodiscard]] constexpr base::Colour ReadableOn(base::Colour ground) {
-    return LooksLight(ground) ? base::Colour::Rgb(0, 0, 0) : base::Colour::Rgb(255, 255, 255);
-}
-
-// True for an ink that can hardly be told from its ground.
-[[nodiscard]] constexpr bool Vanishes(base::Colour ink, base::Colour ground) {
-    const int difference = Brightness(ink) - Brightness(ground);
-    return difference > -32 && difference < 32;
 }
 
 } // namespace korvane::controls

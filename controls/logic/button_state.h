@@ -16,19 +16,22 @@ struct ButtonFacts {
     bool disabled = false;
     bool hot = false;
     bool focused = false;
+    bool focusShown = false; // whether the button is to tell that it has the keyboard focus
+
+    [[nodiscard]] constexpr bool ShowsFocus() const { return focused && focusShown; }
 };
 
 // A button whose menu is open stays pressed although the mouse has long been let go.
-[[nodiscard]] constexpr ButtonState StateOf(const ButtonFacts& facts) {
+[[nodiscard]] constexpr ButtonState StateByMouse(const ButtonFacts& facts) {
     if (facts.pressed || facts.menuShown) return ButtonState::kPressed;
     if (facts.disabled) return ButtonState::kDisabled;
     return facts.hot ? ButtonState::kHot : ButtonState::kNormal;
 }
 
-// A tool button may show the keyboard focus in the way it shows the mouse.
-[[nodiscard]] constexpr ButtonState ToolButtonState(const ButtonFacts& facts, bool focusLooksHot) {
-    const ButtonState state = StateOf(facts);
-    return state == ButtonState::kNormal && facts.focused && focusLooksHot ? ButtonState::kHot : state;
+// The keyboard focus, where it is shown, is shown in the way of the mouse.
+[[nodiscard]] constexpr ButtonState StateOf(const ButtonFacts& facts) {
+    const ButtonState state = StateByMouse(facts);
+    return state == ButtonState::kNormal && facts.ShowsFocus() ? ButtonState::kHot : state;
 }
 
 // A step button has no disabled look.

@@ -15,6 +15,8 @@
 #include "settings/logic/data_folder_path.h"
 #include "settings/logic/setting_keys.h"
 #include "settings/logic/window_placement.h"
+#include "tests/support/canvas.h"
+#include "tests/support/high_contrast.h"
 #include "tests/support/main_frame_fixture.h"
 #include "tests/support/message_box_answer.h"
 #include "tests/support/modal_dialog_answer.h"
@@ -23,6 +25,8 @@ using namespace korvane;
 using app::CMainFrame;
 namespace keys = settings::keys;
 
+using test::Canvas;
+using test::HighContrast;
 using test::MainFrameTest;
 
 namespace {
@@ -132,6 +136,71 @@ TEST_F(MainFrameTest, ReadsTheColourAgainWhenTheWindowManagersChanges) {
     Send(WM_DWMCOLORIZATIONCOLORCHANGED);
 
     EXPECT_EQ(ErasedColourAt(1, 1), RGB(159, 22, 106));
+}
+
+// Without a restart, whichever of its messages Windows sends last.
+TEST_F(MainFrameTest, TakesTheSystemsColoursWhenHighContrastComesAndItsOwnWhenItGoes) {
+    settings.Write(keys::DefaultBarColor, 0);
+    SetClientWidth(1024);
+    for (const auto& [message, wparam] :
+         {std::pair<UINT, WPARAM>{WM_SYSCOLORCHANGE, 0}, std::pair<UINT, WPARAM>{WM_THEMECHANGED, 0},
+          std::pair<UINT, WPARAM>{WM_SETTINGCHANGE, SPI_SETHIGHCONTRAST}}) {
+        {
+            const HighContrast highContrast{test::ContrastBlack()};
+            Send(message, wparam);
+
+            EXPECT_EQ(ErasedColourAt(1, 1), HighContrast::Colour(COLOR_WINDOW)) << message;
+            EXPECT_EQ(ErasedColourAt(127, 16), HighContrast::Colour(COLOR_WINDOWTEXT)) << message;
+            EXPECT_EQ(ErasedColourAt(200, 16), HighContrast::Colour(COLOR_WINDOW)) << message;
+            LOGBRUSH brush{};
+            ::GetObjectW(Bar().BarBrush(), sizeof brush, &brush);
+            EXPECT_EQ(brush.lbColor, HighContrast::Colour(COLOR_WINDOW)) << message;
+        }
+        Send(message, wparam);
+
+        EXPECT_EQ(ErasedColourAt(1, 1), RGB(159, 22, 106)) << message;
+        EXPECT_EQ(ErasedColourAt(127, 16), ::GetSysColor(COLOR_WINDOW)) << message;
+    }
+}
+
+TEST_F(MainFrameTest, PaintsItsWordsInTheSystemsColoursInHighContrast) {
+    const HighContrast highContrast{test::ContrastBlack()};
+    Send(WM_SYSCOLORCHANGE);
+    for (const int id : {ID_CLOCK, ID_CONTROL_PANEL, ID_OPTIONS, ID_HELP_CONTENTS, ID_EXIT, ID_MAIN_MENU}) {
+        const base::Rect area = fw::ClientRect(Child(id));
+        const Canvas canvas{area.Extent()};
+        DRAWITEMSTRUCT item{};
+        item.CtlType = ODT_BUTTON;
+        item.hwndItem = Child(id);
+        item.hDC = canvas.Dc();
+        item.rcItem = fw::ToWindows(area);
+        Send(WM_DRAWITEM, static_cast<WPARAM>(id), reinterpret_cast<LPARAM>(&item));
+
+        EXPECT_EQ(canvas.Pixel(0, 0), HighContrast::Colour(COLOR_WINDOW)) << id;
+        // The schemes' yellow: no blue in any smoothed pixel of it either.
+        for (const COLORREF pixel : canvas.Pixels()) ASSERT_EQ(GetBValue(pixel), 0) << id;
+        EXPECT_NE(canvas.Content(area, canvas.Pixel(0, 0)), base::Rect{}) << id;
+    }
+}
+
+TEST_F(MainFrameTest, ShowsTheKeyboardOnEveryButtonOfTheBar) {
+    for (const int id : {ID_MAIN_MENU, ID_COMMAND_HISTORY, ID_RUN_TYPED, ID_SEARCH_CHOOSER, ID_SEARCH_HISTORY,
+                         ID_RUN_SEARCH, ID_CONTROL_PANEL, ID_LAUNCH_BUTTON_1, ID_LAUNCH_BUTTON_2, ID_LAUNCH_BUTTON_3,
+                         ID_OPTIONS, ID_HELP_CONTENTS, ID_CLOCK, ID_EXIT}) {
+        const base::Rect area = fw::ClientRect(Child(id));
+        const auto paint = [&](UINT state) {
+            const Canvas canvas{area.Extent()};
+            DRAWITEMSTRUCT item{};
+            item.CtlType = ODT_BUTTON;
+            item.hwndItem = Child(id);
+            item.itemState = state;
+            item.hDC = canvas.Dc();
+            item.rcItem = fw::ToWindows(area);
+            Send(WM_DRAWITEM, static_cast<WPARAM>(id), reinterpret_cast<LPARAM>(&item));
+            return canvas.Pixel(2, 2);
+        };
+        EXPECT_NE(paint(ODS_FOCUS), paint(0)) << id;
+    }
 }
 
 TEST_F(MainFrameTest, CanBeWidenedButNeverMadeTaller) {

@@ -231,7 +231,7 @@ TEST_F(ToolButton, TakesTheIconBeforeTheListBeforeThePicture) {
 TEST_F(ToolButton, ShowsTheFocusAsHotOnlyWhenTold) {
     EXPECT_EQ(Paint(button, ODS_FOCUS).Pixel(0, 0), Ground());
 
-    button.SetFocusShownAsHot(true);
+    button.SetFocusShown(true);
 
     EXPECT_EQ(Paint(button, ODS_FOCUS).Pixel(0, 0), Plate(ButtonState::kHot));
     EXPECT_EQ(Paint(button).Pixel(0, 0), Ground());

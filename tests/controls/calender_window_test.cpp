@@ -182,7 +182,7 @@ TEST_F(CalenderWindow, TakesTheWindowTextColourOnALightBar) {
 TEST_F(CalenderWindow, CountsABarAsLightByItsDarkestChannel) {
     const auto textOn = [](Colour colour) {
         const fw::UniqueBrush ground{::CreateSolidBrush(fw::ToWindows(colour))};
-        return LookOn(ground.Get()).textColor;
+        return LookOn(ground.Get()).text.colour;
     };
 
     EXPECT_EQ(textOn(Colour::Rgb(193, 193, 193)), Colour{::GetSysColor(COLOR_WINDOWTEXT)});

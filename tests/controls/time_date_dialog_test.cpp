@@ -108,9 +108,17 @@ protected:
         ::MapWindowPoints(nullptr, popUp, reinterpret_cast<POINT*>(&r), 2);
         return fw::FromWindows(r);
     }
-    [[nodiscard]] Canvas Painted() const {
+    // All of it, and what is inside its frame.
+    [[nodiscard]] Canvas PaintedWithFrame() const {
         Canvas canvas{fw::ClientRect(popUp).Extent()};
         EXPECT_EQ(Send(popUp, WM_ERASEBKGND, reinterpret_cast<WPARAM>(canvas.Dc())), 1);
+        return canvas;
+    }
+    [[nodiscard]] Canvas Painted() const {
+        Canvas canvas{fw::ClientRect(popUp).Inset(1).Extent()};
+        ::SetViewportOrgEx(canvas.Dc(), -1, -1, nullptr);
+        EXPECT_EQ(Send(popUp, WM_ERASEBKGND, reinterpret_cast<WPARAM>(canvas.Dc())), 1);
+        ::SetViewportOrgEx(canvas.Dc(), 0, 0, nullptr);
         return canvas;
     }
     [[nodiscard]] bool Closed() const { return !::IsWindow(popUp); }
@@ -417,6 +425,70 @@ TEST_F(TimeDateDialog, LeavesTheKeysOfOtherWindowsAlone) {
     EXPECT_EQ(Month().title, L"2026年3月");
 }
 
+TEST_F(TimeDateDialog, IsWalkedInTheOrderOfReading) {
+    Open();
+
+    EXPECT_EQ(::GetWindow(popUp, GW_CHILD), Button(kPreviousMonthButton));
+    EXPECT_EQ(::GetWindow(Button(kPreviousMonthButton), GW_HWNDNEXT), CalendarWindow());
+    EXPECT_EQ(::GetWindow(CalendarWindow(), GW_HWNDNEXT), Button(kNextMonthButton));
+}
+
+TEST_F(TimeDateDialog, ComesBackToTodayOnTheHomeKey) {
+    OpenAt(kLastSecondOfNovember);
+    StepBack();
+    StepBack();
+    clock.now = kFirstSecondOfDecember;
+
+    Press(Button(kNextMonthButton), VK_HOME);
+    Pump();
+
+    EXPECT_EQ(Month().title, L"2026年12月");
+    EXPECT_EQ(Today(), 1U);
+    clock.now = {2027, 1, 1, 5, 0, 0, 0};
+    Tick();
+    EXPECT_EQ(Month().title, L"2027年1月");
+}
+
+TEST_F(TimeDateDialog, TurnsWithTheWheelWhereverTheMouseIs) {
+    Open();
+    const auto wheel = [](int notches) { return MAKEWPARAM(0, static_cast<short>(notches * kWheelNotch)); };
+
+    Send(popUp, WM_MOUSEWHEEL, wheel(1));
+    EXPECT_EQ(Month().title, L"2026年2月");
+    Send(CalendarWindow(), WM_MOUSEWHEEL, wheel(1));
+    EXPECT_EQ(Month().title, L"2026年1月");
+    Send(Button(kNextMonthButton), WM_MOUSEWHEEL, wheel(-3));
+    EXPECT_EQ(Month().title, L"2026年4月");
+}
+
+TEST_F(TimeDateDialog, TurnsOnceForTheManyPartsOfAFineWheelsNotch) {
+    Open();
+
+    for (int part = 0; part < 4; ++part) Send(popUp, WM_MOUSEWHEEL, MAKEWPARAM(0, static_cast<short>(-30)));
+
+    EXPECT_EQ(Month().title, L"2026年4月");
+}
+
+TEST_F(TimeDateDialog, DrawsItsBorderInsteadOfOwningOne) {
+    Open();
+
+    EXPECT_EQ(fw::ClientRect(popUp).Extent(), (base::Size{320, 240}));
+    const Canvas canvas = PaintedWithFrame();
+    const COLORREF frame = ::GetSysColor(COLOR_WINDOWFRAME);
+    for (const POINT at : {POINT{0, 0}, POINT{319, 0}, POINT{0, 239}, POINT{319, 239}, POINT{160, 0}, POINT{0, 120}})
+        EXPECT_EQ(canvas.Pixel(at.x, at.y), frame) << at.x << "," << at.y;
+    for (const POINT at : {POINT{1, 1}, POINT{318, 1}, POINT{1, 238}, POINT{318, 238}})
+        EXPECT_EQ(canvas.Pixel(at.x, at.y), kDarkBar.value) << at.x << "," << at.y;
+}
+
+TEST_F(TimeDateDialog, HasItsCalendarInTheMiddleOfTheWindow) {
+    Open();
+
+    const Rect window = fw::WindowRect(popUp);
+    const Rect calendar = fw::WindowRect(CalendarWindow());
+    EXPECT_EQ(calendar.left - window.left, window.right - calendar.right);
+}
+
 TEST_F(TimeDateDialog, HasButtonsThatTabReaches) {
     Open();
     ASSERT_EQ(::SetFocus(Button(kPreviousMonthButton)), ::GetFocus());
@@ -527,7 +599,7 @@ TEST_F(TimeDateDialog, ClosesUnseenWhenAPartOfItCannotBeCreated) {
         EXPECT_FALSE(::IsWindowVisible(popUp));
         EXPECT_FALSE(::KillTimer(popUp, CTimeDateDialog::kTimer));
         // There is no time to be shown yet.
-        EXPECT_EQ(Painted().Content(fw::ClientRect(popUp), kDarkBar.value), Rect{});
+        EXPECT_EQ(Painted().Content({0, 0, 318, 238}, kDarkBar.value), Rect{});
         EXPECT_EQ(bar.log, "");
 
         Pump();

@@ -14,6 +14,7 @@
 #include "framework/windows_version.h"
 #include "tests/support/canvas.h"
 #include "tests/support/gdi_objects.h"
+#include "tests/support/high_contrast.h"
 #include "tests/support/icon_file.h"
 #include "tests/support/menu_owner.h"
 #include "tests/support/window_test.h"
@@ -479,6 +480,38 @@ TEST_F(MenuImagesTest, DrawsAGreyedItemDimmed) {
         EXPECT_EQ(GetRValue(drawn), GetBValue(drawn));
         EXPECT_NEAR(GetRValue(drawn), 0x26 + 0x80, 2);
     }
+}
+
+TEST_F(MenuImagesTest, DrawsADrawingInTheColourOfItsTextInHighContrast) {
+    const korvane::test::HighContrast highContrast{korvane::test::ContrastBlack()};
+    images.Set(
+        kFirst, [] { return AlphaIcon(0xFFFF0000); }, ImageKind::kDrawing);
+    for (const auto& [state, index] :
+         {std::pair<UINT, int>{0, COLOR_MENUTEXT}, std::pair<UINT, int>{ODS_SELECTED, COLOR_HIGHLIGHTTEXT},
+          std::pair<UINT, int>{ODS_GRAYED, COLOR_GRAYTEXT},
+          std::pair<UINT, int>{ODS_GRAYED | ODS_SELECTED, COLOR_GRAYTEXT}}) {
+        const Canvas canvas{kCell};
+
+        EXPECT_EQ(DrawOn(canvas, kFirst, state), Reply{TRUE});
+
+        EXPECT_EQ(canvas.Pixel(kCell.width / 2, kCell.height / 2), korvane::test::HighContrast::Colour(index)) << state;
+    }
+}
+
+TEST_F(MenuImagesTest, DrawsAPictureInItsOwnColoursInHighContrastToo) {
+    const korvane::test::HighContrast highContrast{korvane::test::ContrastBlack()};
+    images.Set(kFirst, [] { return AlphaIcon(0xFFFF0000); });
+    const Canvas canvas{kCell};
+
+    EXPECT_EQ(DrawOn(canvas, kFirst), Reply{TRUE});
+
+    EXPECT_EQ(canvas.Pixel(kCell.width / 2, kCell.height / 2), static_cast<COLORREF>(RGB(255, 0, 0)));
+}
+
+TEST_F(MenuImagesTest, LeavesTheImagesToTheOwnerInHighContrast) {
+    const korvane::test::HighContrast highContrast{korvane::test::ContrastBlack()};
+
+    EXPECT_EQ(CurrentMenuImageStyle(), MenuImageStyle::kCallback);
 }
 
 TEST_F(MenuImagesTest, LeavesTheCellOfAnItemWithoutAnImageEmpty) {

@@ -91,7 +91,6 @@ public:
         Add(mainMenu_, {4, 0, 124, 32}, ID_MAIN_MENU, L"");
         Add(options_, {130, 0, 166, 32}, ID_OPTIONS, L"");
         options_.SetIcon(IconOf(light ? IDI_OPTIONS_ON_LIGHT : IDI_OPTIONS_ON_DARK));
-        options_.SetFocusShownAsHot(true);
         Add(help_, {166, 0, 202, 32}, ID_HELP_CONTENTS, L"");
         help_.SetIcon(IconOf(light ? IDI_HELP_ON_LIGHT : IDI_HELP_ON_DARK));
         Add(left_, {206, 4, 226, 28}, 1, L"");

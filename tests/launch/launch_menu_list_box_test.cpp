@@ -2,10 +2,12 @@
 
 #include <gtest/gtest.h>
 
+#include <cstdlib>
 #include <string>
 
 #include "tests/launch/launch_items.h"
 #include "tests/support/canvas.h"
+#include "tests/support/high_contrast.h"
 #include "tests/support/window_test.h"
 
 using namespace korvane;
@@ -46,6 +48,19 @@ protected:
         for (int y = part.top; y < part.bottom; ++y)
             for (int x = part.left; x < part.right; ++x)
                 if (canvas.Pixel(x, y) == colour) return true;
+        return false;
+    }
+
+    // A smoothed text reaches its colour only nearly.
+    static bool HoldsNear(const test::Canvas& canvas, const base::Rect& part, COLORREF colour) {
+        const auto close = [](int a, int b) { return std::abs(a - b) < 80; };
+        for (int y = part.top; y < part.bottom; ++y)
+            for (int x = part.left; x < part.right; ++x) {
+                const COLORREF pixel = canvas.Pixel(x, y);
+                if (close(GetRValue(pixel), GetRValue(colour)) && close(GetGValue(pixel), GetGValue(colour)) &&
+                    close(GetBValue(pixel), GetBValue(colour)))
+                    return true;
+            }
         return false;
     }
 
@@ -199,6 +214,19 @@ TEST_F(LaunchMenuListBox, DrawsNothingForTheFocusOfAnEmptyList) {
 
 TEST_F(LaunchMenuListBox, OpensTheThemeOfExplorersLists) {
     EXPECT_STREQ(list.ThemeClasses(), L"EXPLORER::LISTVIEW");
+}
+
+TEST_F(LaunchMenuListBox, WritesInTheSystemsColoursInHighContrast) {
+    ASSERT_TRUE(list.Insert(0, &item));
+    for (const test::SystemColours& scheme : {test::ContrastBlack(), test::ContrastWhite()}) {
+        const test::HighContrast highContrast{scheme};
+
+        EXPECT_TRUE(Holds(Drawn(0), kText, scheme.at(COLOR_WINDOW)));
+        EXPECT_FALSE(Holds(Drawn(0), kText, kButtonText));
+        EXPECT_TRUE(HoldsNear(Drawn(0), kText, scheme.at(COLOR_WINDOWTEXT)));
+        EXPECT_TRUE(Holds(Drawn(0, ODS_SELECTED), kText, scheme.at(COLOR_HIGHLIGHT)));
+        EXPECT_TRUE(HoldsNear(Drawn(0, ODS_SELECTED), kText, scheme.at(COLOR_HIGHLIGHTTEXT)));
+    }
 }
 
 } // namespace

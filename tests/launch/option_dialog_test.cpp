@@ -13,6 +13,7 @@
 #include "tests/support/fake_help.h"
 #include "tests/support/fake_store.h"
 #include "tests/support/gdi_objects.h"
+#include "tests/support/high_contrast.h"
 #include "tests/support/message_box_answer.h"
 #include "tests/support/temp_folder.h"
 #include "tests/support/window_test.h"
@@ -513,6 +514,40 @@ TEST_F(OptionDialog, GivesEverythingBack) {
     for (int i = 0; i < 3; ++i) once();
 
     EXPECT_LE(test::GdiObjectCount(), before);
+}
+
+TEST_F(OptionDialog, GivesItsStripTheSystemsColoursInHighContrastAtOnce) {
+    Open();
+    const auto left = [&] {
+        const test::Canvas canvas{fw::ClientRect(dialog->Handle()).Extent()};
+        Send(dialog->Handle(), WM_ERASEBKGND, reinterpret_cast<WPARAM>(canvas.Dc()));
+        return canvas.Pixel(0, 0);
+    };
+    const auto row = [&](UINT state) {
+        NMTVCUSTOMDRAW drawing{};
+        drawing.nmcd.hdr = {Control(kTree), kTree, static_cast<UINT>(NM_CUSTOMDRAW)};
+        drawing.nmcd.dwDrawStage = CDDS_ITEMPREPAINT;
+        drawing.nmcd.uItemState = state;
+        Send(dialog->Handle(), WM_NOTIFY, kTree, reinterpret_cast<LPARAM>(&drawing));
+        return std::pair{drawing.clrText, drawing.clrTextBk};
+    };
+    {
+        const test::HighContrast highContrast{test::ContrastWhite()};
+        const auto of = &test::HighContrast::Colour;
+        Send(dialog->Handle(), WM_SYSCOLORCHANGE);
+
+        EXPECT_EQ(left(), of(COLOR_WINDOW));
+        EXPECT_EQ(static_cast<COLORREF>(Send(Control(kTree), TVM_GETBKCOLOR)), of(COLOR_WINDOW));
+        EXPECT_EQ(static_cast<COLORREF>(Send(Control(kTree), TVM_GETTEXTCOLOR)), of(COLOR_WINDOWTEXT));
+        EXPECT_EQ(row(0), (std::pair{of(COLOR_WINDOWTEXT), of(COLOR_WINDOW)}));
+        EXPECT_EQ(row(CDIS_SELECTED), (std::pair{of(COLOR_HIGHLIGHTTEXT), of(COLOR_HIGHLIGHT)}));
+        EXPECT_EQ(Send(Control(kTree), TVM_GETIMAGELIST, TVSIL_NORMAL), 0);
+    }
+    Send(dialog->Handle(), WM_SYSCOLORCHANGE);
+
+    EXPECT_EQ(left(), kGrey);
+    EXPECT_EQ(static_cast<COLORREF>(Send(Control(kTree), TVM_GETBKCOLOR)), kGrey);
+    EXPECT_NE(Send(Control(kTree), TVM_GETIMAGELIST, TVSIL_NORMAL), 0);
 }
 
 } // namespace

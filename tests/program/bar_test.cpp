@@ -131,5 +131,61 @@ TEST_P(BoxButtons, AreEnabledExactlyWhileTheBoxHoldsText) {
 INSTANTIATE_TEST_SUITE_P(Of, BoxButtons, testing::Values(int{kCommandBox}, int{kSearchBox}),
                          [](const auto& test) { return test.param == kCommandBox ? "CommandBox" : "SearchBox"; });
 
+class BarToolTips : public ProgramTest {
+protected:
+    // What the tooltips on view say that belong to the program.
+    [[nodiscard]] static std::vector<HWND> Shown(const Program& program) {
+        return WindowsOf(program.Id(), L"tooltips_class32");
+    }
+    // A mouse that moves over a control until its tooltip comes.
+    [[nodiscard]] static bool PointAt(const Program& program, HWND control) {
+        RECT place{};
+        ::GetWindowRect(control, &place);
+        ::SetCursorPos(place.left + 5, place.top + 5);
+        ::SetCursorPos(place.left + 8, place.top + 8);
+        return WaitUntil([&] { return !Shown(program).empty(); });
+    }
+};
+
+TEST_F(BarToolTips, ExplainTheGreyedButtonsToo) {
+    const Program program;
+    const HWND bar = program.WaitForBar();
+    ASSERT_NE(bar, nullptr);
+    for (const ControlId id : {kRun, kSearch}) {
+        ASSERT_FALSE(::IsWindowEnabled(Control(bar, id)));
+
+        EXPECT_TRUE(PointAt(program, Control(bar, id))) << id;
+
+        ::SetCursorPos(5, 700);
+        EXPECT_TRUE(WaitUntil([&] { return Shown(program).empty(); }));
+    }
+}
+
+TEST_F(BarToolTips, VanishWithAKey) {
+    const Program program;
+    const HWND bar = program.WaitForBar();
+    ASSERT_NE(bar, nullptr);
+    ASSERT_TRUE(ClickIntoFocus(Control(bar, kCommandBox)));
+    ASSERT_TRUE(PointAt(program, Control(bar, kHelp)));
+
+    TypeText(L"a");
+
+    EXPECT_TRUE(WaitUntil([&] { return Shown(program).empty(); }));
+}
+
+TEST_F(BarToolTips, VanishWhenAMenuOpensByKey) {
+    const Program program;
+    const HWND bar = program.WaitForBar();
+    ASSERT_NE(bar, nullptr);
+    ASSERT_TRUE(ClickIntoFocus(Control(bar, kCommandBox)));
+    ASSERT_TRUE(PointAt(program, Control(bar, kHelp)));
+
+    PressKeys({VK_LMENU, VK_LWIN, 'X'});
+
+    EXPECT_TRUE(WaitUntil([&] { return !WindowsOf(program.Id(), L"#32768").empty(); }));
+    EXPECT_TRUE(WaitUntil([&] { return Shown(program).empty(); }));
+    PressKeys({VK_ESCAPE});
+}
+
 } // namespace
 } // namespace korvane::test

@@ -14,7 +14,10 @@ namespace korvane::test {
 // A bar that shows no menu: it writes down what it was asked to show, and answers as the test told it.
 class FakeBarHost final : public controls::BarHost {
 public:
-    FakeBarHost() : font_{::CreateFontW(-12, 0, 0, 0, FW_NORMAL, 0, 0, 0, DEFAULT_CHARSET, 0, 0, 0, 0, L"Meiryo UI")} {}
+    FakeBarHost() : font_{MakeFont(DEFAULT_QUALITY)} {}
+
+    // Without smoothing every pixel of a text is in the very colour of the text. For buttons that are yet to be made.
+    void TakeRoughFont() { font_ = MakeFont(NONANTIALIASED_QUALITY); }
 
     // Three pop-ups with two, three and four items, of which the last two have one separator each.
     [[nodiscard]] HMENU Popup(int position) const override { return ::GetSubMenu(menu_.Get(), position); }
@@ -34,6 +37,10 @@ public:
     std::wstring log;
 
 private:
+    static fw::UniqueFont MakeFont(DWORD quality) {
+        return fw::UniqueFont{
+            ::CreateFontW(-12, 0, 0, 0, FW_NORMAL, 0, 0, 0, DEFAULT_CHARSET, 0, 0, quality, 0, L"Meiryo UI")};
+    }
     static HMENU MakeMenu() {
         const HMENU bar = ::CreateMenu();
         for (int popup = 0; popup < 3; ++popup) {

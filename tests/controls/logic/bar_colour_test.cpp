@@ -35,16 +35,11 @@ TEST(BarTextColour, IsTheButtonTextForTheSystemDefault) {
     EXPECT_EQ(TextColourOn(Colour::Rgb(255, 255, 255)), BarTextColour::kWindowText);
 }
 
-TEST(Readable, InkStandsOutFromItsGround) {
-    EXPECT_EQ(ReadableOn(Colour::Rgb(255, 255, 0)), Colour::Rgb(0, 0, 0));
-    EXPECT_EQ(ReadableOn(Colour::Rgb(159, 22, 106)), Colour::Rgb(255, 255, 255));
-}
-
-TEST(Readable, InkOfTheGroundsBrightnessVanishes) {
-    EXPECT_TRUE(Vanishes(Colour::Rgb(255, 255, 255), Colour::Rgb(250, 250, 250)));
-    EXPECT_TRUE(Vanishes(Colour::Rgb(0, 0, 0), Colour::Rgb(20, 20, 20)));
-    EXPECT_FALSE(Vanishes(Colour::Rgb(255, 255, 255), Colour::Rgb(159, 22, 106)));
-    EXPECT_FALSE(Vanishes(Colour::Rgb(0, 0, 0), Colour::Rgb(240, 240, 240)));
+TEST(HighContrastText, IsTheWindowsUntilTheButtonIsHighlighted) {
+    EXPECT_EQ(TextColourInHighContrast(ButtonState::kNormal), BarTextColour::kWindowText);
+    EXPECT_EQ(TextColourInHighContrast(ButtonState::kHot), BarTextColour::kHighlightText);
+    EXPECT_EQ(TextColourInHighContrast(ButtonState::kPressed), BarTextColour::kHighlightText);
+    EXPECT_EQ(TextColourInHighContrast(ButtonState::kDisabled), BarTextColour::kGreyText);
 }
 
 } // namespace

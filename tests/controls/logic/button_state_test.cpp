@@ -33,15 +33,20 @@ TEST(ButtonState, OfItselfDoesNotShowTheFocus) {
     EXPECT_EQ(StateOf({.focused = true}), ButtonState::kNormal);
 }
 
-TEST(ToolButtonState, ShowsTheFocusAsHotOnlyWhenToldTo) {
-    EXPECT_EQ(ToolButtonState({.focused = true}, true), ButtonState::kHot);
-    EXPECT_EQ(ToolButtonState({.focused = true}, false), ButtonState::kNormal);
-    EXPECT_EQ(ToolButtonState({}, true), ButtonState::kNormal);
+TEST(ButtonState, ShowsTheFocusAsHotOnlyWhenToldTo) {
+    EXPECT_EQ(StateOf({.focused = true, .focusShown = true}), ButtonState::kHot);
+    EXPECT_EQ(StateOf({.focused = true, .focusShown = false}), ButtonState::kNormal);
+    EXPECT_EQ(StateOf({.focusShown = true}), ButtonState::kNormal);
 }
 
-TEST(ToolButtonState, LetsTheFocusChangeNoOtherState) {
-    EXPECT_EQ(ToolButtonState({.pressed = true, .focused = true}, true), ButtonState::kPressed);
-    EXPECT_EQ(ToolButtonState({.disabled = true, .focused = true}, true), ButtonState::kDisabled);
+TEST(ButtonState, LetsTheFocusChangeNoOtherState) {
+    EXPECT_EQ(StateOf({.pressed = true, .focused = true, .focusShown = true}), ButtonState::kPressed);
+    EXPECT_EQ(StateOf({.disabled = true, .focused = true, .focusShown = true}), ButtonState::kDisabled);
+}
+
+TEST(ButtonState, ByTheMouseLeavesTheFocusOut) {
+    EXPECT_EQ(StateByMouse({.focused = true, .focusShown = true}), ButtonState::kNormal);
+    EXPECT_EQ(StateByMouse({.hot = true, .focused = true, .focusShown = true}), ButtonState::kHot);
 }
 
 TEST(StepButtonState, KnowsThreeStatesOnly) {

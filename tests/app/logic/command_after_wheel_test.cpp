@@ -1,28 +1,10 @@
-#include "app/logic/wheel_steps.h"
+#include "app/logic/command_after_wheel.h"
 
 #include <gtest/gtest.h>
 
 #include <array>
 
 using namespace korvane::app;
-
-TEST(WheelSteps, AreWholeOnesHoweverFineTheWheelIs) {
-    WheelSteps wheel;
-
-    EXPECT_EQ(wheel.Turn(120), 1);
-    EXPECT_EQ(wheel.Turn(-240), -2);
-    EXPECT_EQ(wheel.Turn(-40), 0);
-    EXPECT_EQ(wheel.Turn(-40), 0);
-    EXPECT_EQ(wheel.Turn(-40), -1);
-}
-
-TEST(WheelSteps, BeginAnewWhenTheWheelTurnsBack) {
-    WheelSteps wheel;
-
-    EXPECT_EQ(wheel.Turn(100), 0);
-    EXPECT_EQ(wheel.Turn(-100), 0);
-    EXPECT_EQ(wheel.Turn(-20), -1);
-}
 
 TEST(CommandAfterWheel, GoesDownTheListTowardsTheUser) {
     constexpr std::array commands{5001U, 5003U, 5010U};

@@ -6,25 +6,6 @@
 
 namespace korvane::app {
 
-// Makes whole steps of a wheel's turns: a fine wheel reports parts of a step.
-class WheelSteps {
-public:
-    // Takes the turn of one message, away from the user if positive; gives the steps that are complete with it, in the
-    // same direction.
-    [[nodiscard]] constexpr int Turn(int delta) {
-        constexpr int kStep = 120; // WHEEL_DELTA
-        // A turn back begins anew.
-        if ((delta < 0) != (rest_ < 0)) rest_ = 0;
-        rest_ += delta;
-        const int steps = rest_ / kStep;
-        rest_ %= kStep;
-        return steps;
-    }
-
-private:
-    int rest_ = 0;
-};
-
 // The command to which the wheel leads from the current one: towards the user is down the list, and it ends at both
 // ends. A command that is not in the list stays.
 [[nodiscard]] constexpr unsigned CommandAfterWheel(std::span<const unsigned> commands, unsigned current, int steps) {
