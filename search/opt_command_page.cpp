@@ -259,6 +259,8 @@ void COptCommandPage::OnUpdate(const fw::Message&) {
 }
 
 void COptCommandPage::OnTellUnreadable(const fw::Message&) {
+    // Windows shows a dialog when nothing is left to do, and a box over one that is not there says little.
+    ::ShowWindow(Dialog(), SW_SHOW);
     Ask(fw::LoadText(IDS_USER_FILE_UNREADABLE), MB_ICONEXCLAMATION);
 }
 

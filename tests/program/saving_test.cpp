@@ -11,8 +11,6 @@ namespace korvane::test {
 namespace {
 
 using testing::Contains;
-using testing::Each;
-using testing::IsSubsetOf;
 using testing::IsSupersetOf;
 
 using Lines = std::vector<std::wstring>;
@@ -238,6 +236,7 @@ TEST_F(UserCommandsOnTheBadDay, AreToldOfAndTheirFileLeftAloneWhenItCannotBeRead
 
     const auto box = program.WaitForBox();
     ASSERT_TRUE(box);
+    EXPECT_EQ(WindowsOf(program.Id(), L"#32770").size(), 2U) << "the box stands over the options";
     EXPECT_EQ(box.Caption(), L"Korvane");
     EXPECT_EQ(box.Text(),
               L"ユーザー定義コマンドのファイル 'UserCommand.dat' の全部または一部を読み込むことができませんでした。\n\n"

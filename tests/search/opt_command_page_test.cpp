@@ -707,6 +707,7 @@ TEST_F(OptCommandPage, TellsOfAFileThatCouldNotBeReadAndLeavesItAlone) {
     Pump();
 
     EXPECT_EQ(answer.Count(), 1);
+    EXPECT_TRUE(::IsWindowVisible(dialog.Handle()));
     EXPECT_EQ(answer.Caption(), L"Korvane");
     EXPECT_THAT(answer.Text(),
                 testing::StartsWith(L"ユーザー定義コマンドのファイル 'UserCommand.dat' の全部または一部を"));
