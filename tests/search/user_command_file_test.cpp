@@ -4,6 +4,8 @@
 
 #include <gmock/gmock.h>
 
+#include <ostream>
+
 #include "framework/handle.h"
 #include "framework/string_table.h"
 #include "res/ids.h"
@@ -195,6 +197,8 @@ TEST_F(UserCommandFileOnDisk, KeepsALongTextThatIsNotWhatWasChanged) {
 struct DamagedFile {
     const char* name;
     std::string bytes;
+
+    friend void PrintTo(const DamagedFile& file, std::ostream* out) { *out << file.name; }
 };
 
 class DamagedUserCommandFile : public UserCommandFileOnDisk, public testing::WithParamInterface<DamagedFile> {};
@@ -222,8 +226,8 @@ INSTANTIATE_TEST_SUITE_P(
     Damages, DamagedUserCommandFile,
     testing::Values(DamagedFile{"Zeros", std::string(10'000, '\0')},
                     DamagedFile{"AllBitsSet", std::string(5'000, '\xFF')},
-                    DamagedFile{"RandomBytes", "\x8F\x01[\x11\x00\x93zQ\r\n\xC3\x28=\x7F"}, DamagedFile{"OneByte", "x"},
-                    DamagedFile{"HalfACharacter", std::string{"\xFF\xFE\x00\xD8\x5B", 5}},
+                    DamagedFile{"RandomBytes", std::string{"\x8F\x01[\x11\x00\x93zQ\r\n\xC3(=\x7F", 14}},
+                    DamagedFile{"OneByte", "x"}, DamagedFile{"HalfACharacter", std::string{"\xFF\xFE\x00\xD8\x5B", 5}},
                     DamagedFile{"FirstSectionMissing",
                                 "\xFF\xFE" + Utf16(std::wstring{kHeader} + L"[SearchCommand_02]\r\nCommandName=b\r\n")},
                     DamagedFile{"FirstNameMissing",

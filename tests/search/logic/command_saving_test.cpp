@@ -139,6 +139,7 @@ TEST_F(SavingUserCommands, NeverDeletesAFileThatWasOnlyHeldWhileTheListWasMade) 
 TEST_F(SavingUserCommands, LeavesAFileAloneThatIsHeldNow) {
     Load({Listed(1, L"a", true)});
     file.condition = FileCondition::kUnreadable;
+    user.sections.clear();
 
     EXPECT_EQ(Save({Listed(1, L"a", true)}), 0U);
 
