@@ -11,8 +11,6 @@ namespace korvane::test {
 namespace {
 
 using testing::Contains;
-using testing::Each;
-using testing::IsSubsetOf;
 using testing::IsSupersetOf;
 
 using Lines = std::vector<std::wstring>;
