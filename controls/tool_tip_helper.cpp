@@ -92,7 +92,8 @@ void ToolTip::UncoverPlace() {
     covered_ = nullptr;
 }
 
-LRESULT CALLBACK ToolTip::RelayMouse(HWND parent, UINT id, WPARAM wparam, LPARAM lparam, UINT_PTR tip, DWORD_PTR) {
+LRESULT CALLBACK ToolTip::RelayMouse(HWND parent, UINT id, WPARAM wparam, LPARAM lparam, UINT_PTR tip,
+                                     DWORD_PTR) noexcept {
     const auto window = reinterpret_cast<HWND>(tip);
     if (id >= WM_MOUSEFIRST && id <= WM_MOUSELAST) {
         const DWORD at = ::GetMessagePos();

@@ -31,7 +31,8 @@ private:
     void CoverPlace();
     void UncoverPlace();
     [[nodiscard]] bool Covers() const { return covered_ != nullptr; }
-    static LRESULT CALLBACK RelayMouse(HWND parent, UINT id, WPARAM wparam, LPARAM lparam, UINT_PTR tip, DWORD_PTR);
+    static LRESULT CALLBACK RelayMouse(HWND parent, UINT id, WPARAM wparam, LPARAM lparam, UINT_PTR tip,
+                                       DWORD_PTR) noexcept;
 
     fw::UniqueHandle<HWND, &::DestroyWindow> window_;
     HWND child_ = nullptr;

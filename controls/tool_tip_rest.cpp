@@ -17,11 +17,11 @@ struct Change {
 constexpr UINT_PTR kStopTimers = 1;
 
 // A tooltip that is turned off is hidden, but on some Windows one whose delay has begun comes all the same.
-LRESULT CALLBACK StopTimers(HWND tip, UINT id, WPARAM wparam, LPARAM lparam, UINT_PTR, DWORD_PTR) {
+LRESULT CALLBACK StopTimers(HWND tip, UINT id, WPARAM wparam, LPARAM lparam, UINT_PTR, DWORD_PTR) noexcept {
     return id == WM_TIMER ? 0 : ::DefSubclassProc(tip, id, wparam, lparam);
 }
 
-BOOL CALLBACK ChangeTip(HWND window, LPARAM parameter) {
+BOOL CALLBACK ChangeTip(HWND window, LPARAM parameter) noexcept {
     const auto& change = *reinterpret_cast<const Change*>(parameter);
     wchar_t name[32]{};
     if (::GetWindow(window, GW_OWNER) != change.owner || ::GetClassNameW(window, name, 32) == 0) return TRUE;
