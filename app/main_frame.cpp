@@ -55,13 +55,14 @@ void CMainFrame::ShowFirst(int showCommand) {
     ::UpdateWindow(Handle());
     // The children too, before what could wait until the bar is to be seen.
     ::RedrawWindow(Handle(), nullptr, nullptr, RDW_UPDATENOW | RDW_ALLCHILDREN);
-    notificationIcon_.Add(Handle(), smallIcon_.Get());
     clipboard_.Start(Handle());
     // What is dragged to a hidden bar's strip calls it out as the mouse alone does.
     drop_.Start(Handle(), [this] { docking_.OnHitTest(); });
     launch::BuildLaunchMenu(menus_, settings_);
     search::DetectSearchTools(settings_);
     versionText_ = about::ReadVersionText();
+    // Last, because the shell is waited for: what other programs send meanwhile finds a bar that is ready.
+    notificationIcon_.Add(Handle(), smallIcon_.Get());
 }
 
 int CMainFrame::OnCreate(const CREATESTRUCTW&) {

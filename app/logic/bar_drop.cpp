@@ -5,7 +5,7 @@ namespace korvane::app {
 std::wstring QuotedPaths(std::span<const std::wstring> paths) {
     std::wstring all;
     // No path holds a quotation mark.
-    for (const std::wstring& path : paths) all = WithAppended(std::move(all), L'"' + path + L'"');
+    for (const std::wstring& path : paths) all.append(all.empty() ? L"\"" : L" \"").append(path) += L'"';
     return all;
 }
 

@@ -307,19 +307,6 @@ TEST_F(DropDown, TakesBackOnceTheActivationThatItLosesWhileOpening) {
     EXPECT_FALSE(::IsWindow(popUp));
 }
 
-TEST_F(DropDown, GivesUpWhenTheActivationDoesNotComeBack) {
-    openingMoment = std::chrono::hours{1};
-    Open(Box::kSearch, {L"one"});
-    // A disabled window cannot be brought to the foreground.
-    ::EnableWindow(popUp, FALSE);
-    ::SetForegroundWindow(Host());
-
-    Send(popUp, WM_ACTIVATE, WA_INACTIVE);
-    Pump();
-
-    EXPECT_FALSE(::IsWindow(popUp));
-}
-
 TEST_F(DropDown, RemovesTheSelectedEntryWithDelAndStaysOpen) {
     Open(Box::kCommand, {L"one", L"two", L"three"});
     Send(List(), WM_KEYDOWN, VK_DOWN);

@@ -160,12 +160,30 @@ void EndOwnersOf(const wchar_t* className) {
     }
 }
 
+namespace {
+
+// What was sent overtakes what was posted. A posted message that leaves a trace tells when its turn has come: the most
+// that the command input box takes. Without such a box there is nothing to wait for.
+bool PostedMessagesAreDone(HWND window) {
+    constexpr int kCommandInputBox = 2001;
+    constexpr LRESULT kLeast = 0x7FFF'0000;
+    static LRESULT trace = kLeast;
+    const HWND box = ::GetDlgItem(window, kCommandInputBox);
+    if (!box) return true;
+    if (++trace == 0x7FFF'FFF0) trace = kLeast;
+    ::PostMessageW(box, EM_SETLIMITTEXT, static_cast<WPARAM>(trace), 0);
+    return WaitUntil([&] { return !::IsWindow(box) || ::SendMessageW(box, EM_GETLIMITTEXT, 0, 0) == trace; });
+}
+
+} // namespace
+
 bool WaitUntilIdle(HWND window) {
     const fw::UniqueKernelHandle process{
         ::OpenProcess(PROCESS_QUERY_INFORMATION | SYNCHRONIZE, FALSE, ProcessOf(window))};
     if (process) ::WaitForInputIdle(process.Get(), kAnswerTimeoutMs);
     DWORD_PTR answer = 0;
-    return ::SendMessageTimeoutW(window, WM_NULL, 0, 0, SMTO_NORMAL, kAnswerTimeoutMs, &answer) != 0;
+    return ::SendMessageTimeoutW(window, WM_NULL, 0, 0, SMTO_NORMAL, kAnswerTimeoutMs, &answer) != 0 &&
+           PostedMessagesAreDone(window);
 }
 
 void PressKeys(std::initializer_list<WORD> keys) {
