@@ -63,6 +63,9 @@ inline void SendMouse(HWND window, std::initializer_list<MOUSEINPUT> events) {
 inline void RightClick(HWND window) {
     SendMouse(window, {{0, 0, 0, MOUSEEVENTF_RIGHTDOWN, 0, 0}, {0, 0, 0, MOUSEEVENTF_RIGHTUP, 0, 0}});
 }
+[[nodiscard]] inline bool RightClickForMenu(HWND window) {
+    return RepeatUntil([window] { RightClick(window); }, [] { return OpenMenu() != nullptr; });
+}
 // Away from the user if positive.
 inline void TurnWheel(HWND window, int steps) {
     SendMouse(window, {{0, 0, static_cast<DWORD>(steps * WHEEL_DELTA), MOUSEEVENTF_WHEEL, 0, 0}});

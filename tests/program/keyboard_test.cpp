@@ -343,7 +343,7 @@ TEST_F(Mouse, OpensTheMainMenuWithTheRightButtonOnTheBar) {
     ASSERT_TRUE(ClickIntoFocus(Control(bar, kSearchBox)));
 
     for (const ControlId control : {kOptions, kMainMenu}) {
-        RightClick(Control(bar, control));
+        ASSERT_TRUE(RightClickForMenu(Control(bar, control)));
         // About the program, which only the main menu has.
         ASSERT_TRUE(ChooseByKey('A')) << control;
         const HWND about = WaitForDialog(program);
@@ -361,7 +361,7 @@ TEST_F(Mouse, StartsALaunchButtonsItemFromItsOwnMenu) {
     ASSERT_NE(bar, nullptr);
     ASSERT_TRUE(ClickIntoFocus(Control(bar, kSearchBox)));
 
-    RightClick(Control(bar, kLaunch2));
+    ASSERT_TRUE(RightClickForMenu(Control(bar, kLaunch2)));
     ASSERT_TRUE(ChooseByKey('O'));
 
     EXPECT_THAT(recorder::WaitForCommandLines(1), ElementsAre(testing::EndsWith(L"rec.exe\" second")));
@@ -377,7 +377,7 @@ TEST_F(Mouse, EditsALaunchButtonsItemFromItsOwnMenu) {
     ASSERT_NE(bar, nullptr);
     ASSERT_TRUE(ClickIntoFocus(Control(bar, kSearchBox)));
 
-    RightClick(Control(bar, kLaunch2));
+    ASSERT_TRUE(RightClickForMenu(Control(bar, kLaunch2)));
     ASSERT_TRUE(ChooseByKey('E'));
     const HWND editor = WaitForDialog(program);
     ASSERT_NE(editor, nullptr);
@@ -399,7 +399,7 @@ TEST_F(Mouse, OpensTheFolderOfALaunchButtonsItem) {
     ASSERT_NE(bar, nullptr);
     ASSERT_TRUE(ClickIntoFocus(Control(bar, kSearchBox)));
 
-    RightClick(Control(bar, kLaunch1));
+    ASSERT_TRUE(RightClickForMenu(Control(bar, kLaunch1)));
     ASSERT_TRUE(ChooseByKey('F'));
 
     const auto lines = recorder::WaitForCommandLines(1);

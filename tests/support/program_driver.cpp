@@ -226,9 +226,14 @@ HWND FocusOf(HWND window) {
 
 bool ClickIntoFocus(HWND control) {
     const HWND top = ::GetAncestor(control, GA_ROOT);
-    ::SetForegroundWindow(top);
-    Click(control);
-    return WaitUntil([&] { return FocusOf(control) == control && ::GetForegroundWindow() == top; });
+    const auto has = [&] { return FocusOf(control) == control && ::GetForegroundWindow() == top; };
+    // A click that comes while the display server hands out the focus can be swallowed; a user would click once more.
+    constexpr std::chrono::seconds kForOneClick{4};
+    return WaitUntil([&] {
+        ::SetForegroundWindow(top);
+        Click(control);
+        return WaitUntil(has, kForOneClick);
+    });
 }
 
 std::wstring TextOfError(DWORD code) {
@@ -346,7 +351,12 @@ HWND Program::WaitForBar() const {
         if (!bars.empty()) bar = bars.front();
         return bar != nullptr || !Running();
     });
-    return bar != nullptr && WaitUntilIdle(bar) ? bar : nullptr;
+    if (bar == nullptr || !WaitUntilIdle(bar)) return nullptr;
+    // The window manager hands out the focus a moment after a window has come up, and what the bar opens before then it
+    // closes again. Not every bar gets the focus.
+    constexpr std::chrono::milliseconds kForTheWindowManager{1000};
+    WaitUntil([bar] { return ::GetForegroundWindow() == bar; }, kForTheWindowManager);
+    return bar;
 }
 
 MessageBoxView Program::WaitForBox(const MessageBoxView& previous) const {
