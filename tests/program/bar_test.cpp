@@ -184,9 +184,8 @@ TEST_F(BarToolTips, VanishWhenAMenuOpensByKey) {
     ASSERT_TRUE(ClickIntoFocus(Control(bar, kCommandBox)));
     ASSERT_TRUE(PointAt(program, Control(bar, kHelp)));
 
-    PressKeys({VK_F10});
-
-    EXPECT_TRUE(WaitUntil([&] { return !WindowsOf(program.Id(), L"#32768").empty(); }));
+    // A tooltip that goes can take the menu along: the display server hands out the focus anew then.
+    EXPECT_TRUE(RepeatUntil([] { PressKeys({VK_F10}); }, [] { return OpenMenu() != nullptr; }));
     EXPECT_TRUE(WaitUntil([&] { return Shown(program).empty(); }));
     PressKeys({VK_ESCAPE});
 }
